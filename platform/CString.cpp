@@ -1,0 +1,259 @@
+#include "platform/CString.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+
+namespace {
+
+bool IsBlank(char16_t ch)
+{
+    return ch == u' ' || ch == u'\t' || ch == u'\r' || ch == u'\n' || ch == u'\v' || ch == u'\f';
+}
+
+void AppendUtf16(std::u16string& out, char32_t cp)
+{
+    if (cp < 0x10000) {
+        out += static_cast<char16_t>(cp);
+    } else {
+        cp -= 0x10000;
+        out += static_cast<char16_t>(0xD800 + (cp >> 10));
+        out += static_cast<char16_t>(0xDC00 + (cp & 0x3FF));
+    }
+}
+
+void AppendUtf8(std::string& out, char32_t cp)
+{
+    if (cp < 0x80) {
+        out += static_cast<char>(cp);
+    } else if (cp < 0x800) {
+        out += static_cast<char>(0xC0 | (cp >> 6));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    } else if (cp < 0x10000) {
+        out += static_cast<char>(0xE0 | (cp >> 12));
+        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    } else {
+        out += static_cast<char>(0xF0 | (cp >> 18));
+        out += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
+        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    }
+}
+
+constexpr char32_t kReplacement = 0xFFFD;
+
+} // namespace
+
+CString CString::FromUtf8(std::string_view utf8)
+{
+    std::u16string out;
+    out.reserve(utf8.size());
+    std::size_t i = 0;
+    while (i < utf8.size()) {
+        const auto lead = static_cast<unsigned char>(utf8[i]);
+        const int extra = lead < 0x80 ? 0 : (lead >> 5) == 0x6 ? 1 : (lead >> 4) == 0xE ? 2 : (lead >> 3) == 0x1E ? 3 : -1;
+        char32_t cp = 0;
+        bool ok = extra >= 0 && i + static_cast<std::size_t>(extra) < utf8.size();
+        if (ok) {
+            cp = extra == 0 ? lead : lead & (0x3Fu >> extra);
+            for (int k = 1; k <= extra && ok; ++k) {
+                const auto cont = static_cast<unsigned char>(utf8[i + static_cast<std::size_t>(k)]);
+                ok = (cont & 0xC0) == 0x80;
+                cp = (cp << 6) | (cont & 0x3F);
+            }
+            constexpr char32_t minimum[] = {0, 0x80, 0x800, 0x10000};
+            ok = ok && cp >= minimum[extra] && cp <= 0x10FFFF && !(cp >= 0xD800 && cp <= 0xDFFF);
+        }
+        if (!ok) {
+            // One replacement character per undecodable byte, then resync.
+            AppendUtf16(out, kReplacement);
+            ++i;
+            continue;
+        }
+        AppendUtf16(out, cp);
+        i += static_cast<std::size_t>(extra) + 1;
+    }
+    return CString(std::move(out));
+}
+
+CString CString::FromLatin1(std::string_view bytes)
+{
+    std::u16string out(bytes.size(), u'\0');
+    std::transform(bytes.begin(), bytes.end(), out.begin(),
+                   [](char c) { return static_cast<char16_t>(static_cast<unsigned char>(c)); });
+    return CString(std::move(out));
+}
+
+std::string CString::ToUtf8() const
+{
+    std::string out;
+    out.reserve(m_str.size());
+    for (std::size_t i = 0; i < m_str.size(); ++i) {
+        char32_t cp = m_str[i];
+        if (cp >= 0xD800 && cp <= 0xDBFF && i + 1 < m_str.size() && m_str[i + 1] >= 0xDC00 && m_str[i + 1] <= 0xDFFF) {
+            cp = 0x10000 + ((cp - 0xD800) << 10) + (m_str[i + 1] - 0xDC00);
+            ++i;
+        } else if (cp >= 0xD800 && cp <= 0xDFFF) {
+            cp = kReplacement;
+        }
+        AppendUtf8(out, cp);
+    }
+    return out;
+}
+
+int CString::Find(char16_t ch, int start) const
+{
+    if (start < 0 || start > GetLength())
+        return -1;
+    const auto pos = m_str.find(ch, static_cast<std::size_t>(start));
+    return pos == std::u16string::npos ? -1 : static_cast<int>(pos);
+}
+
+int CString::Find(std::u16string_view sub, int start) const
+{
+    if (start < 0 || start > GetLength())
+        return -1;
+    const auto pos = m_str.find(sub, static_cast<std::size_t>(start));
+    return pos == std::u16string::npos ? -1 : static_cast<int>(pos);
+}
+
+int CString::ReverseFind(char16_t ch) const
+{
+    const auto pos = m_str.rfind(ch);
+    return pos == std::u16string::npos ? -1 : static_cast<int>(pos);
+}
+
+int CString::Replace(std::u16string_view oldText, std::u16string_view newText)
+{
+    if (oldText.empty())
+        return 0;
+    std::u16string out;
+    int count = 0;
+    std::size_t from = 0;
+    for (auto pos = m_str.find(oldText); pos != std::u16string::npos; pos = m_str.find(oldText, from)) {
+        out.append(m_str, from, pos - from);
+        out += newText;
+        from = pos + oldText.size();
+        ++count;
+    }
+    if (count > 0) {
+        out.append(m_str, from, std::u16string::npos);
+        m_str = std::move(out);
+    }
+    return count;
+}
+
+int CString::Remove(char16_t ch)
+{
+    const auto before = m_str.size();
+    std::erase(m_str, ch);
+    return static_cast<int>(before - m_str.size());
+}
+
+CString CString::Left(int count) const
+{
+    count = std::clamp(count, 0, GetLength());
+    return CString(m_str.substr(0, static_cast<std::size_t>(count)));
+}
+
+CString CString::Mid(int first) const
+{
+    return Mid(first, GetLength());
+}
+
+CString CString::Mid(int first, int count) const
+{
+    first = std::clamp(first, 0, GetLength());
+    count = std::clamp(count, 0, GetLength() - first);
+    return CString(m_str.substr(static_cast<std::size_t>(first), static_cast<std::size_t>(count)));
+}
+
+CString CString::Right(int count) const
+{
+    count = std::clamp(count, 0, GetLength());
+    return CString(m_str.substr(m_str.size() - static_cast<std::size_t>(count)));
+}
+
+CString& CString::TrimLeft()
+{
+    const auto it = std::find_if_not(m_str.begin(), m_str.end(), IsBlank);
+    m_str.erase(m_str.begin(), it);
+    return *this;
+}
+
+CString& CString::TrimRight()
+{
+    while (!m_str.empty() && IsBlank(m_str.back()))
+        m_str.pop_back();
+    return *this;
+}
+
+CString& CString::Trim()
+{
+    return TrimRight().TrimLeft();
+}
+
+CString& CString::TrimLeft(char16_t ch)
+{
+    const auto first = m_str.find_first_not_of(ch);
+    m_str.erase(0, first == std::u16string::npos ? m_str.size() : first);
+    return *this;
+}
+
+CString& CString::TrimRight(char16_t ch)
+{
+    while (!m_str.empty() && m_str.back() == ch)
+        m_str.pop_back();
+    return *this;
+}
+
+CString& CString::MakeUpper()
+{
+    for (auto& ch : m_str)
+        if (ch >= u'a' && ch <= u'z')
+            ch = static_cast<char16_t>(ch - u'a' + u'A');
+    return *this;
+}
+
+void CString::Format(int value)
+{
+    *this = FromNumber(value);
+}
+
+void CString::Format(unsigned int value)
+{
+    *this = FromNumber(value);
+}
+
+void CString::Format(double value, char16_t decimalSeparator)
+{
+    *this = FromNumber(value, decimalSeparator);
+}
+
+CString CString::FromNumber(int value)
+{
+    return FromLatin1(std::to_string(value));
+}
+
+CString CString::FromNumber(unsigned int value)
+{
+    return FromLatin1(std::to_string(value));
+}
+
+CString CString::FromNumber(double value, char16_t decimalSeparator)
+{
+    // std::to_chars is locale-independent (a GUI toolkit may have changed
+    // LC_NUMERIC), and its general format with precision 6 is exactly %g.
+    char buffer[64];
+    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 6);
+    CString text = FromLatin1(std::string_view(buffer, static_cast<std::size_t>(result.ptr - buffer)));
+    if (decimalSeparator != u'.')
+        text.Replace(u".", std::u16string_view(&decimalSeparator, 1));
+    return text;
+}
+
+bool ContainsControlCharacter(const CString& text)
+{
+    return std::any_of(text.Str().begin(), text.Str().end(), [](char16_t ch) { return ch < 0x20 || ch == 0x7F; });
+}

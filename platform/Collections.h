@@ -1,0 +1,85 @@
+// CArray: the framework's growable array, over std::vector. Indexes are int
+// as in the framework; access out of range throws CInvalidArgException
+// rather than corrupting memory.
+#pragma once
+
+#include "platform/CString.h"
+#include "platform/Exceptions.h"
+#include "platform/Object.h"
+
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+template <class T>
+class CArray : public CObject {
+public:
+    using value_type = T;
+
+    CArray() = default;
+    CArray(const CArray&) = default;
+    CArray(CArray&&) noexcept = default;
+    CArray& operator=(const CArray&) = default;
+    CArray& operator=(CArray&&) noexcept = default;
+    CArray(std::initializer_list<T> items) : m_data(items) {}
+
+    int GetSize() const { return static_cast<int>(m_data.size()); }
+    int GetCount() const { return GetSize(); }
+    int GetUpperBound() const { return GetSize() - 1; }
+    bool IsEmpty() const { return m_data.empty(); }
+
+    const T& GetAt(int index) const { return m_data[Checked(index)]; }
+    T& ElementAt(int index) { return m_data[Checked(index)]; }
+    const T& operator[](int index) const { return GetAt(index); }
+    T& operator[](int index) { return ElementAt(index); }
+    void SetAt(int index, const T& value) { m_data[Checked(index)] = value; }
+
+    int Add(const T& value) { m_data.push_back(value); return GetUpperBound(); }
+    int Add(T&& value) { m_data.push_back(std::move(value)); return GetUpperBound(); }
+    void InsertAt(int index, const T& value)
+    {
+        if (index < 0 || index > GetSize())
+            throw CInvalidArgException();
+        m_data.insert(m_data.begin() + index, value);
+    }
+    void RemoveAt(int index, int count = 1)
+    {
+        if (index < 0 || count < 0 || index + count > GetSize())
+            throw CInvalidArgException();
+        m_data.erase(m_data.begin() + index, m_data.begin() + index + count);
+    }
+    void RemoveAll() { m_data.clear(); }
+    void SetSize(int size)
+    {
+        if (size < 0)
+            throw CInvalidArgException();
+        m_data.resize(static_cast<std::size_t>(size));
+    }
+    void Copy(const CArray& other) { if (&other != this) m_data = other.m_data; }
+    void Append(const CArray& other) { m_data.insert(m_data.end(), other.m_data.begin(), other.m_data.end()); }
+    void Reserve(std::size_t capacity) { m_data.reserve(capacity); }
+
+    auto begin() { return m_data.begin(); }
+    auto end() { return m_data.end(); }
+    auto begin() const { return m_data.begin(); }
+    auto end() const { return m_data.end(); }
+
+    friend bool operator==(const CArray& a, const CArray& b) { return a.m_data == b.m_data; }
+
+protected:
+    std::vector<T>& Items() { return m_data; }
+    const std::vector<T>& Items() const { return m_data; }
+
+private:
+    std::size_t Checked(int index) const
+    {
+        if (index < 0 || index >= GetSize())
+            throw CInvalidArgException();
+        return static_cast<std::size_t>(index);
+    }
+
+    std::vector<T> m_data;
+};
+
+using CStringArray = CArray<CString>;
+using CUIntArray = CArray<UINT>;

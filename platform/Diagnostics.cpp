@@ -1,0 +1,32 @@
+#include "platform/Diagnostics.h"
+
+#include <iostream>
+#include <utility>
+
+namespace kal {
+
+namespace {
+
+AssertionSink& Sink()
+{
+    static AssertionSink sink;
+    return sink;
+}
+
+} // namespace
+
+void ReportAssertion(const std::string& file, int line)
+{
+    if (const auto& sink = Sink()) {
+        sink(file, line);
+        return;
+    }
+    std::cerr << "assertion: " << file << " line " << line << std::endl;
+}
+
+AssertionSink SetAssertionSink(AssertionSink sink)
+{
+    return std::exchange(Sink(), std::move(sink));
+}
+
+} // namespace kal

@@ -1,0 +1,19 @@
+// Process-wide assertion sink. Framework code reports impossible states
+// here and goes on; the host decides where reports go (by default
+// "assertion: <file> line <n>" on standard error), tests capture them.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace kal {
+
+using AssertionSink = std::function<void(const std::string& file, int line)>;
+
+void ReportAssertion(const std::string& file, int line);
+
+// Installs a sink and returns the one it replaces; an empty sink restores
+// the default.
+AssertionSink SetAssertionSink(AssertionSink sink);
+
+} // namespace kal
