@@ -1,0 +1,96 @@
+#include "framework/HostLink.h"
+
+#include "host/IBinReader.h"
+#include "host/IDlgBase.h"
+#include "host/IGlobal.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+class CDlgBase final : public IDlgBase {
+public:
+    explicit CDlgBase(IGlobal* global) : m_global(global) { Live().push_back(this); }
+    ~CDlgBase() { std::erase(Live(), this); }
+    CDlgBase(const CDlgBase&) = delete;
+    CDlgBase& operator=(const CDlgBase&) = delete;
+
+    IGlobal* GetGlobal() override { return m_global; }
+    void Release() override { delete this; }
+
+    static std::vector<CDlgBase*>& Live()
+    {
+        static std::vector<CDlgBase*> live;
+        return live;
+    }
+
+private:
+    IGlobal* m_global;
+};
+
+IBinReader*& ResourceHandle()
+{
+    static IBinReader* handle = nullptr;
+    return handle;
+}
+
+} // namespace
+
+IDlgBase* CreateDlgBase(IGlobal* global)
+{
+    return new CDlgBase(global);
+}
+
+namespace KalUseRes {
+
+IBinReader* GetGlobalResourceHandle()
+{
+    return ResourceHandle();
+}
+
+void SetGlobalResourceHandle(IBinReader* reader)
+{
+    ResourceHandle() = reader;
+}
+
+} // namespace KalUseRes
+
+namespace kal::framework {
+
+IGlobal* Host()
+{
+    const auto& live = CDlgBase::Live();
+    return live.empty() ? nullptr : live.back()->GetGlobal();
+}
+
+bool WriteEveryOption()
+{
+    IGlobal* host = Host();
+    return host && host->IsWriteEveryOption();
+}
+
+char16_t DecimalSeparator()
+{
+    IGlobal* host = Host();
+    return host ? host->GetDecimalSeparator() : u'.';
+}
+
+IBinReader* Resources()
+{
+    return KalUseRes::GetGlobalResourceHandle();
+}
+
+CString LoadResourceString(unsigned int id)
+{
+    IBinReader* reader = Resources();
+    return reader ? reader->GetString(id) : CString();
+}
+
+void ReportMessage(unsigned int id)
+{
+    if (IGlobal* host = Host())
+        host->ReportMessage(id, 0);
+}
+
+} // namespace kal::framework
