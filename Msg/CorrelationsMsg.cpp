@@ -1,0 +1,12 @@
+#include "Msg/CorrelationsMsg.h"
+
+namespace {
+
+const MenuCommandRow kRows[] = {
+    KAL_MENU_ROW_UNAVAILABLE(2002, CCorrelationsTabDlg, CCorrelationsTabData, 2057, 2363),
+    KAL_MENU_ROW_UNAVAILABLE(2057, CSetCorTabDlg, CSetCorTabData, 2278, 2044),
+};
+
+} // namespace
+
+CCorrelationsMsg::CCorrelationsMsg(IGlobal* pGlobal) : CMenuGroupMsg(pGlobal, "Msg/CorrelationsMsg", kRows) {}

@@ -1,0 +1,23 @@
+#include "Msg/MultivariateAnalysisMsg.h"
+
+namespace {
+
+const MenuCommandRow kRows[] = {
+    KAL_MENU_ROW_UNAVAILABLE(2017, CAddTreeDlg, CAddTreeData),
+    KAL_MENU_ROW_UNAVAILABLE(2018, CJoinTabDlg, CJoinTabData, 2107, 2266, 2375),
+    KAL_MENU_ROW_UNAVAILABLE(2019, CMultivarClusterKmeansTabDlg, CMultivarClusterKmeansTabData, 2394, 2374),
+    KAL_MENU_ROW_UNAVAILABLE(2020, CCoranTabDlg, CCoranTabData, 2056),
+    KAL_MENU_ROW_UNAVAILABLE(2021, CDiscrimTabDlg, CDiscrimTabData, 2065, 2211),
+    KAL_MENU_ROW_UNAVAILABLE(2022, CRdiscrimDlg, CRdiscrimData),
+    KAL_MENU_ROW_UNAVAILABLE(2023, CFactorTabDlg, CFactorTabData, 2074),
+    KAL_MENU_ROW_UNAVAILABLE(2024, CManovaBetweenDlg, CManovaBetweenData),
+    KAL_MENU_ROW_UNAVAILABLE(2025, CMultivariateManovaEstimateTabDlg, CMultivariateManovaEstimateTabData, 2182),
+    KAL_MENU_ROW_UNAVAILABLE(2026, CManovaHypothesisTabDlg, CManovaHypothesisTabData, 2184),
+    KAL_MENU_ROW_UNAVAILABLE(2027, CHypPairwiseDlg, CHypPairwiseData),
+    KAL_MENU_ROW_UNAVAILABLE(2028, CManovaWithinDlg, CManovaWithinData),
+    KAL_MENU_ROW_UNAVAILABLE(2029, CTreesTabDlg, CTreesTabData, 2318),
+};
+
+} // namespace
+
+CMultivariateAnalysisMsg::CMultivariateAnalysisMsg(IGlobal* pGlobal) : CMenuGroupMsg(pGlobal, "Msg/MultivariateAnalysisMsg", kRows) {}

@@ -1,0 +1,24 @@
+#include "Msg/QualityAnalysisMsg.h"
+
+namespace {
+
+const MenuCommandRow kRows[] = {
+    KAL_MENU_ROW_UNAVAILABLE(2033, CBoxWhiskerDlg, CBoxWhiskerData),
+    KAL_MENU_ROW_UNAVAILABLE(2034, CArlDlg, CArlData),
+    KAL_MENU_ROW_UNAVAILABLE(2035, CCusumDlg, CCusumData),
+    KAL_MENU_ROW_UNAVAILABLE(2036, CEWMATabDlg, CEWMATabData, 2069, 2151),
+    KAL_MENU_ROW_UNAVAILABLE(2037, CMaTabDlg, CMaTabData, 2153, 2152),
+    KAL_MENU_ROW_UNAVAILABLE(2038, CArlDlg, CArlData),
+    KAL_MENU_ROW_UNAVAILABLE(2039, CRegressDlg, CRegressData),
+    KAL_MENU_ROW_UNAVAILABLE(2040, CRunChartDlg, CRunChartData),
+    KAL_MENU_ROW_UNAVAILABLE(2041, CShewhartTabDlg, CShewhartTabData, 2279),
+    KAL_MENU_ROW_UNAVAILABLE(2042, CTsqDlg, CTsqData),
+    KAL_MENU_ROW_UNAVAILABLE(2043, CXMrTabDlg, CXMrTabData, 2338),
+    KAL_MENU_ROW_UNAVAILABLE(2045, CQaHistogramDlg, CQaHistogramData),
+    KAL_MENU_ROW_UNAVAILABLE(2046, CParetoDlg, CParetoData),
+    KAL_MENU_ROW_UNAVAILABLE(2047, CPcaDlg, CPcaData),
+};
+
+} // namespace
+
+CQualityAnalysisMsg::CQualityAnalysisMsg(IGlobal* pGlobal) : CMenuGroupMsg(pGlobal, "Msg/QualityAnalysisMsg", kRows) {}

@@ -1,0 +1,33 @@
+#include "Msg/RegressionMsg.h"
+
+namespace {
+
+const MenuCommandRow kRows[] = {
+    KAL_MENU_ROW_UNAVAILABLE(2001, CTslsDlg, CTslsData),
+    KAL_MENU_ROW_UNAVAILABLE(2004, CLogitTabDlg, CLogitTabData, 2146, 2216, 2145),
+    KAL_MENU_ROW_UNAVAILABLE(2005, CLogitPostDlg, CLogitPostData),
+    KAL_MENU_ROW_UNAVAILABLE(2006, CLogitQuantilesDlg, CLogitQuantilesData),
+    KAL_MENU_ROW_UNAVAILABLE(2007, CLogitSimulateDlg, CLogitSimulateData),
+    KAL_MENU_ROW_UNAVAILABLE(2030, CNonLinearTabDlg, CNonLinearTabData, 1400, 2205, 2092, 2202),
+    KAL_MENU_ROW_UNAVAILABLE(2031, CNonLinLossTabDlg, CNonLinLossTabData, 2204, 2203),
+    KAL_MENU_ROW_UNAVAILABLE(2032, CProbitTabDlg, CProbitTabData, 2251, 2043),
+    KAL_MENU_ROW_UNAVAILABLE(2050, CBayesianDlg, CBayesianData),
+    KAL_MENU_ROW_UNAVAILABLE(2051, CRegressionTabDlg, CRegressionTabData, 2261),
+    KAL_MENU_ROW_UNAVAILABLE(2052, CRidgeRegressionDlg, CRidgeRegressionData),
+    KAL_MENU_ROW_UNAVAILABLE(2053, CLadregDlg, CLadregData),
+    KAL_MENU_ROW_UNAVAILABLE(2054, CMregLmsregTabDlg, CMregLmsregTabData, 2385, 2144),
+    KAL_MENU_ROW_UNAVAILABLE(2055, CMregTabDlg, CMregTabData, 2149),
+    KAL_MENU_ROW_UNAVAILABLE(2056, CRankRegressionDlg, CRankRegressionData),
+    KAL_MENU_ROW_UNAVAILABLE(2058, CSmoothTabDlg, CSmoothTabData, 2281),
+    KAL_MENU_ROW_UNAVAILABLE(2064, CPlsTabDlg, CPlsTabData, 2389),
+    KAL_MENU_ROW_UNAVAILABLE(2070, CMregLtsTabDlg, CMregLtsTabData, 2386, 2148),
+    KAL_MENU_ROW_UNAVAILABLE(2071, CMregSregTabDlg, CMregSregTabData, 2387, 2276),
+    KAL_MENU_ROW_UNAVAILABLE(2072, CMregMmregTabDlg, CMregMmregTabData, 2196),
+    KAL_MENU_ROW_UNAVAILABLE(2074, CRankRegressionDlg, CRankRegressionData),
+    KAL_MENU_ROW_UNAVAILABLE(2075, CLadregMcdregTabDlg, CLadregMcdregTabData),
+    KAL_MENU_ROW_UNAVAILABLE(2076, CMregTabDlg, CMregTabData, 2149),
+};
+
+} // namespace
+
+CRegressionMsg::CRegressionMsg(IGlobal* pGlobal) : CMenuGroupMsg(pGlobal, "Msg/RegressionMsg", kRows) {}
