@@ -1,0 +1,144 @@
+#include "refhost/HostGlobal.h"
+
+#include "framework/GUIBaseObj.h"
+
+namespace kalhost {
+
+// The host's command engine: prints each line it runs, UTF-8, exactly as
+// written.
+class HostGlobal::Kernel final : public IKernel {
+public:
+    explicit Kernel(HostGlobal& host) : m_host(host) {}
+
+    int ExecuteLine(const CString& line) override { return m_host.ExecuteLine(line); }
+    IGlobal* GetGlobal() override { return &m_host; }
+    void Release() override {}
+    void PrintModuleInfo() override {}
+    std::wstring& GetModuleName() override { return m_name; }
+    std::wstring& SetModuleName(const std::wstring& name) override { return m_name = name; }
+    bool ReleaseCountedRef(KalCountedRef*, int) override { return false; }
+    void NoOperation() override {}
+    IBinReader* GetResourceHandle() override { return &m_host.m_resources; }
+
+private:
+    HostGlobal& m_host;
+    std::wstring m_name = L"KalKernel";
+};
+
+class HostGlobal::Data final : public IData {
+public:
+    explicit Data(HostGlobal& host) : m_host(host) {}
+
+    IDataSheet* GetActiveDataSheet() override { return m_host.GetActiveDataSheet(); }
+    int GetDataTypeCode() override { return m_host.GetDataTypeCode(); }
+    IGlobal* GetGlobal() override { return &m_host; }
+    void Release() override {}
+    void PrintModuleInfo() override {}
+    std::wstring& GetModuleName() override { return m_name; }
+    std::wstring& SetModuleName(const std::wstring& name) override { return m_name = name; }
+    bool ReleaseCountedRef(KalCountedRef*, int) override { return false; }
+    void NoOperation() override {}
+    IBinReader* GetResourceHandle() override { return &m_host.m_resources; }
+
+private:
+    HostGlobal& m_host;
+    std::wstring m_name = L"KalData";
+};
+
+SettingsStore::~SettingsStore() = default;
+
+CGUIBaseObj* SettingsStore::Get(UINT id) const
+{
+    const auto it = m_objects.find(id);
+    return it == m_objects.end() ? nullptr : it->second.get();
+}
+
+void SettingsStore::Register(UINT id, CGUIBaseObj* settings)
+{
+    m_objects[id].reset(settings);
+}
+
+HostGlobal::HostGlobal(ResourceTable& resources, std::ostream& out, std::ostream& err)
+    : m_resources(resources), m_out(out), m_err(err), m_kernel(std::make_unique<Kernel>(*this)),
+      m_data(std::make_unique<Data>(*this))
+{
+    // The command modules the engine knows: the module lines settings write.
+    for (const UINT id : {12894u, 12914u, 12902u, 12933u, 12910u, 12920u})
+        if (const CString name = m_resources.GetString(id); !name.IsEmpty())
+            m_moduleNames.insert(name);
+    m_moduleNames.insert(u"REGRESS");
+}
+
+HostGlobal::~HostGlobal() = default;
+
+int HostGlobal::ExecuteLine(const CString& line)
+{
+    m_out << line.ToUtf8() << '\n';
+    if (m_moduleNames.count(line))
+        m_currentModule = line;
+    return 0;
+}
+
+void HostGlobal::RunCommand(UINT commandId, const CString&)
+{
+    CGUIBaseObj* settings = m_store.Get(commandId);
+    if (!settings)
+        return;
+    CLIST<CCmdInfo> list;
+    settings->GetCommandInfoList(list);
+    for (const auto& line : list)
+        m_kernel->ExecuteLine(line.m_strCommand);
+    m_out.flush();
+    ++m_commandsRun;
+}
+
+bool HostGlobal::IsCommandAllowed(UINT)
+{
+    // Analyses need a data sheet to choose variables from.
+    return m_sheet != nullptr;
+}
+
+void HostGlobal::ReportMessage(UINT messageId, int)
+{
+    m_lastMessage = messageId;
+    m_err << "message " << messageId << ": " << m_resources.GetMessageText(messageId).ToUtf8() << std::endl;
+}
+
+int HostGlobal::GetDataTypeCode()
+{
+    if (!m_sheet)
+        return KAL_DATA_NONE;
+    return m_preferences.matrixData ? KAL_DATA_MATRIX : KAL_DATA_ORDINARY;
+}
+
+IModule* HostGlobal::GetModule(const std::wstring& name)
+{
+    if (name == L"KalKernel")
+        return m_kernel.get();
+    if (name == L"KalData")
+        return m_data.get();
+    return nullptr;
+}
+
+namespace {
+
+bool FindChain(const std::vector<MenuNode>& nodes, UINT id, CStringArray& chain)
+{
+    for (const auto& node : nodes) {
+        chain.Add(node.text);
+        if ((node.id == id && id != 0) || FindChain(node.items, id, chain))
+            return true;
+        chain.RemoveAt(chain.GetUpperBound());
+    }
+    return false;
+}
+
+} // namespace
+
+bool HostGlobal::GetIDTextChain(UINT id, CStringArray& chain)
+{
+    chain.RemoveAll();
+    return FindChain(m_resources.GetMenuBar(), id, chain);
+}
+
+} // namespace kalhost

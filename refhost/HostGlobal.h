@@ -1,0 +1,121 @@
+// HostGlobal: the reference host's IGlobal and the host modules behind it
+// ("KalKernel", the command engine that prints the lines it runs, and
+// "KalData", the data service over the open data sheet), its main frame and
+// menu bar.
+#pragma once
+
+#include "host/IGlobal.h"
+#include "host/IKernel.h"
+#include "host/KVMenuBar.h"
+#include "refhost/DataSheet.h"
+#include "refhost/Resources.h"
+
+#include <map>
+#include <memory>
+#include <ostream>
+#include <set>
+#include <string>
+
+#include "framework/GUIBaseObj.h"
+
+namespace kalhost {
+
+struct HostPreferences {
+    bool writeEveryOption = false;
+    char16_t decimalSeparator = u'.';
+    bool matrixData = false;       // the data kind is a matrix (type code 2)
+    bool restrictedMode = false;
+    int editLevel = 1;
+    int outputLevel = 2;
+};
+
+// The settings store: one settings object per command id, owned here.
+class SettingsStore {
+public:
+    SettingsStore() = default;
+    ~SettingsStore();
+    SettingsStore(const SettingsStore&) = delete;
+    SettingsStore& operator=(const SettingsStore&) = delete;
+
+    CGUIBaseObj* Get(UINT id) const;
+    void Register(UINT id, CGUIBaseObj* settings);
+    const std::map<UINT, std::unique_ptr<CGUIBaseObj>>& Objects() const { return m_objects; }
+    // Settings objects' code lives in the module: clear before unloading it.
+    void Clear() { m_objects.clear(); }
+
+private:
+    std::map<UINT, std::unique_ptr<CGUIBaseObj>> m_objects;
+};
+
+class HostGlobal final : public IGlobal, public IModuleRegistry, public IMainFrame, public CKVMenuBar {
+public:
+    HostGlobal(ResourceTable& resources, std::ostream& out, std::ostream& err);
+    ~HostGlobal();
+    HostGlobal(const HostGlobal&) = delete;
+    HostGlobal& operator=(const HostGlobal&) = delete;
+
+    HostPreferences& Preferences() { return m_preferences; }
+    void SetDataSheet(std::unique_ptr<DataSheet> sheet) { m_sheet = std::move(sheet); }
+    DataSheet* Sheet() { return m_sheet.get(); }
+    SettingsStore& Store() { return m_store; }
+    ResourceTable& Resources() { return m_resources; }
+    void SetCurrentCommandModule(const CString& name) { m_currentModule = name; }
+
+    // How many dialogs ran their commands, and the last message reported.
+    int CommandsRun() const { return m_commandsRun; }
+    UINT LastMessage() const { return m_lastMessage; }
+
+    // The command runner prints through the kernel; lines that the kernel
+    // knows as module names become the current command module.
+    int ExecuteLine(const CString& line);
+
+    // IGlobal
+    IModuleRegistry* GetModuleRegistry() override { return this; }
+    CGUIBaseObj* GetSettings(UINT commandId) override { return m_store.Get(commandId); }
+    void RegisterSettings(UINT commandId, CGUIBaseObj* settings) override { m_store.Register(commandId, settings); }
+    void RunCommand(UINT commandId, const CString& caption) override;
+    bool IsCommandAllowed(UINT commandId) override;
+    void ReportMessage(UINT messageId, int flags) override;
+    void OnDialogOpening(int) override {}
+    bool IsReplayMode() override { return false; }
+    IMainFrame* GetMainFrame() override { return this; }
+    IDataSheet* GetActiveDataSheet() override { return m_sheet.get(); }
+    int GetDataTypeCode() override;
+    CString GetCurrentCommandModule() override { return m_currentModule; }
+    int GetOutputLevel() override { return m_preferences.outputLevel; }
+    bool IsRestrictedMode() override { return m_preferences.restrictedMode; }
+    int GetEditLevel() override { return m_preferences.editLevel; }
+    bool IsWriteEveryOption() override { return m_preferences.writeEveryOption; }
+    char16_t GetDecimalSeparator() override { return m_preferences.decimalSeparator; }
+    void UpdateViews(int) override {}
+    void RestoreFocus() override {}
+
+    // IModuleRegistry
+    IModule* GetModule(const std::wstring& name) override;
+
+    // IMainFrame
+    CKVMenuBar* GetMenuBar() override { return this; }
+    void* GetOwnerContext(UINT) override { return nullptr; }
+
+    // CKVMenuBar
+    bool GetIDTextChain(UINT id, CStringArray& chain) override;
+
+private:
+    class Kernel;
+    class Data;
+
+    ResourceTable& m_resources;
+    std::ostream& m_out;
+    std::ostream& m_err;
+    HostPreferences m_preferences;
+    std::unique_ptr<DataSheet> m_sheet;
+    SettingsStore m_store;
+    CString m_currentModule;
+    std::set<CString> m_moduleNames;
+    std::unique_ptr<Kernel> m_kernel;
+    std::unique_ptr<Data> m_data;
+    int m_commandsRun = 0;
+    UINT m_lastMessage = 0;
+};
+
+} // namespace kalhost
