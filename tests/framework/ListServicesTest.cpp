@@ -1,0 +1,99 @@
+// Settings-base services over variable lists and texts.
+#include "framework/BaseGui.h"
+#include "framework/GUIBaseObj.h"
+#include "tests/support/FakeHost.h"
+
+#include <gtest/gtest.h>
+
+using namespace kaltest;
+
+namespace {
+
+CGUIArray<CGUIDataVariable> Vars(std::initializer_list<std::u16string> names)
+{
+    CGUIArray<CGUIDataVariable> list;
+    for (const auto& n : names)
+        list.Add(CGUIDataVariable(CString(n), NmsEnum::VT_NUMERIC));
+    return list;
+}
+
+std::vector<std::u16string> Names(const CGUIArray<CGUIDataVariable>& list)
+{
+    std::vector<std::u16string> names;
+    for (const auto& v : list)
+        names.push_back(v.GetVariableName().Str());
+    return names;
+}
+
+} // namespace
+
+TEST(UpdateCtrlList, KeepsOwnOrderThenAddsWhatTheSourceHasInSourceOrder)
+{
+    CGUIBaseObj obj;
+    auto target = Vars({u"C", u"gone", u"A"});
+    const auto source = Vars({u"A", u"B", u"C", u"D"});
+    obj.UpdateCtrlList(&target, &source, 1);
+    EXPECT_EQ(Names(target), (std::vector<std::u16string>{u"C", u"A", u"B", u"D"}));
+
+    auto keepOnly = Vars({u"D", u"gone", u"B", u"D"});
+    obj.UpdateCtrlList(&keepOnly, &source, 0);
+    EXPECT_EQ(Names(keepOnly), (std::vector<std::u16string>{u"D", u"B"}));
+
+    obj.UpdateCtrlList(nullptr, &source, 1); // no target: nothing to do
+}
+
+TEST(ListQueries, PresenceComparisonAndSelection)
+{
+    auto list = Vars({u"A", u"B"});
+    EXPECT_EQ(CGUIBaseObj::CheckStringPresentinListCtrlArray(list, u"B"), 1);
+    EXPECT_EQ(CGUIBaseObj::CheckStringPresentinListCtrlArray(list, u"b"), 0);
+    EXPECT_EQ(CGUIBaseObj::CompareTwoListCtrlArrays(list, Vars({u"A", u"B"})), 1);
+    EXPECT_EQ(CGUIBaseObj::CompareTwoListCtrlArrays(list, Vars({u"B", u"A"})), 0);
+
+    list[1].SetSelected(1);
+    CGUIArray<CGUIDataVariable> out = Vars({u"old"});
+    CGUIBaseObj::GetListCtrlArrayElements(list, out, LIST_SELECTED_ELEMENTS, 0);
+    EXPECT_EQ(Names(out), (std::vector<std::u16string>{u"B"}));
+    CGUIBaseObj::GetListCtrlArrayElements(list, out, LIST_ALL_ELEMENTS, 1);
+    EXPECT_EQ(Names(out), (std::vector<std::u16string>{u"B", u"A", u"B"}));
+}
+
+TEST(TextServices, NumbersExpressionsAndMatrices)
+{
+    for (const char16_t* yes : {u"1", u"-2.5", u" 3e-4 ", u".5", u"+7."})
+        EXPECT_EQ(CGUIBaseObj::IsNumeric(yes), 1) << CString(yes).ToUtf8();
+    for (const char16_t* no : {u"", u"-", u"1e", u"e5", u"1.2.3", u"12a", u"."})
+        EXPECT_EQ(CGUIBaseObj::IsNumeric(no), 0) << CString(no).ToUtf8();
+
+    CStringArray names;
+    CGUIBaseObj::GetUniqueArrFromExpn(u"Y = A + B*A + 'x y' + 2.5e3*C$ + log(A)", names);
+    std::vector<std::u16string> got;
+    for (const auto& n : names)
+        got.push_back(n.Str());
+    EXPECT_EQ(got, (std::vector<std::u16string>{u"Y", u"A", u"B", u"x y", u"C$", u"log"}));
+
+    CString text(u"A,B,");
+    CGUIBaseObj::ReplaceEndChar(text, u',', u')');
+    EXPECT_EQ(text, CString(u"A,B)"));
+    EXPECT_EQ(CGUIBaseObj::GetSingleLineMatrixString(u"1 2\r\n3 4\n\n5\t6"), CString(u"1 2;3 4;5 6"));
+}
+
+TEST(SourceVariables, ComeFromTheHostsDataSheetFilteredByType)
+{
+    FakeHost host;
+    HostScope scope(&host);
+    host.SetVariables({u"Y", u"B$", u"X"});
+    CGUIArray<CGUIDataVariable> all;
+    CBaseGui::GetSourceVariable(&all, NmsEnum::ADD_ALL_VARIABLES, 0);
+    EXPECT_EQ(Names(all), (std::vector<std::u16string>{u"Y", u"B$", u"X"}));
+    EXPECT_EQ(all[1].GetVariableType(), NmsEnum::VT_STRING);
+    EXPECT_EQ(all[2].GetColumn(), 2);
+
+    CGUIArray<CGUIDataVariable> numeric;
+    CBaseGui::GetSourceVariable(&numeric, NmsEnum::ADD_NUMERIC_VARIABLES, 0);
+    EXPECT_EQ(Names(numeric), (std::vector<std::u16string>{u"Y", u"X"}));
+
+    host.sheet.valid = false;
+    CBaseGui::GetSourceVariable(&all, NmsEnum::ADD_ALL_VARIABLES, 0);
+    EXPECT_EQ(all.GetSize(), 0);
+}

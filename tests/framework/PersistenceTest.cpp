@@ -1,0 +1,173 @@
+// Value holders and lists in the archive, against bytes worked out by hand.
+#include "framework/GUIArray.h"
+#include "framework/GUIData.h"
+#include "tests/support/ArchiveBytes.h"
+
+#include <gtest/gtest.h>
+
+using namespace kaltest;
+
+namespace {
+
+// IEEE 754 doubles, little-endian.
+const Bytes kDouble0_001 = {0xFC, 0xA9, 0xF1, 0xD2, 0x4D, 0x62, 0x50, 0x3F};
+const Bytes kDouble2_5 = {0, 0, 0, 0, 0, 0, 0x04, 0x40};
+
+CGUIArray<CGUIDataVariable> TwoVariables()
+{
+    CGUIArray<CGUIDataVariable> list;
+    list.Add(CGUIDataVariable(u"Y", NmsEnum::VT_NUMERIC, 3, u"yield", 0));
+    list.Add(CGUIDataVariable(u"B$", NmsEnum::VT_STRING, 7, {}, 1));
+    return list;
+}
+
+} // namespace
+
+TEST(ValueHolderArchive, DoubleRecordIsStoredInTheFrameworkFieldOrder)
+{
+    const CGUIData<double> value(0, 2.5, 0.001, 0, 1);
+    // state, flag 1, default, value, flag 2
+    const Bytes expected = Cat({Int32(0), Int32(0), kDouble0_001, kDouble2_5, Int32(1)});
+    EXPECT_EQ(Store([&](CArchive& ar) { const_cast<CGUIData<double>&>(value).Serialize(ar); }), expected);
+
+    CGUIData<double> back(7, 9.0, 9.0, 7, 7);
+    Load(expected, [&](CArchive& ar) { back.Serialize(ar); });
+    EXPECT_EQ(back, value);
+}
+
+TEST(ValueHolderArchive, ADefaultReadBackComparesEqualFieldByField)
+{
+    CGUIData<double> original(0.001);
+    EXPECT_EQ(original.m_nState, 1);
+    EXPECT_EQ(original.m_nFlag1, 0);
+    EXPECT_EQ(original.m_nFlag2, 1);
+    const Bytes bytes = Store([&](CArchive& ar) { original.Serialize(ar); });
+    EXPECT_EQ(bytes, Cat({Int32(1), Int32(0), kDouble0_001, kDouble0_001, Int32(1)}));
+    CGUIData<double> back(1.0);
+    Load(bytes, [&](CArchive& ar) { back.Serialize(ar); });
+    EXPECT_EQ(back, original);
+
+    CGUIData<unsigned int> count(0, 4000000000u, 15u, 1, 0);
+    CGUIData<unsigned int> countBack;
+    Load(Store([&](CArchive& ar) { count.Serialize(ar); }), [&](CArchive& ar) { countBack.Serialize(ar); });
+    EXPECT_EQ(countBack, count);
+}
+
+TEST(VariableListArchive, PlainLayoutIsCountThenTwentyFourByteBlocks)
+{
+    auto list = TwoVariables();
+    const Bytes expected = Cat({
+        {0x02, 0x00},
+        Int32(0), Int32(0), Int32(1), Int32(3), Int32(0), Int32(0),
+        Int32(0), Int32(0), Int32(3), Int32(7), Int32(0), Int32(1),
+    });
+    EXPECT_EQ(Store([&](CArchive& ar) { list.Serialize(ar); }), expected);
+
+    CGUIArray<CGUIDataVariable> back;
+    back.Add(CGUIDataVariable(u"stale", NmsEnum::VT_NUMERIC));
+    Load(expected, [&](CArchive& ar) { back.Serialize(ar); });
+    ASSERT_EQ(back.GetSize(), 2);
+    // Names are not part of the plain layout.
+    EXPECT_TRUE(back[0].GetVariableName().IsEmpty());
+    EXPECT_EQ(back[0].GetVariableType(), NmsEnum::VT_NUMERIC);
+    EXPECT_EQ(back[0].GetColumn(), 3);
+    EXPECT_EQ(back[1].GetVariableType(), NmsEnum::VT_STRING);
+    EXPECT_EQ(back[1].GetColumn(), 7);
+    EXPECT_EQ(back[1].IsSelected(), 1);
+
+    CGUIArray<CGUIDataVariable> empty;
+    EXPECT_EQ(Store([&](CArchive& ar) { empty.Serialize(ar); }), (Bytes{0x00, 0x00}));
+}
+
+TEST(VariableListArchive, NamedLayoutKeepsNamesAndLabels)
+{
+    auto list = TwoVariables();
+    const Bytes expected = Cat({
+        {0x02, 0x00},
+        {0xFF, 0xFE, 0xFF, 0x01}, Units(1, u'Y'), Int32(1), Int32(3),
+        {0xFF, 0xFE, 0xFF, 0x05}, {'y', 0, 'i', 0, 'e', 0, 'l', 0, 'd', 0}, Int32(0),
+        {0xFF, 0xFE, 0xFF, 0x02}, {'B', 0, '$', 0}, Int32(3), Int32(7),
+        {0xFF, 0xFE, 0xFF, 0x00}, Int32(1),
+    });
+    EXPECT_EQ(Store([&](CArchive& ar) { list.Serialize(ar); }, CArchive::namedLists), expected);
+    CGUIArray<CGUIDataVariable> back;
+    Load(expected, [&](CArchive& ar) { back.Serialize(ar); }, CArchive::namedLists);
+    ASSERT_EQ(back.GetSize(), 2);
+    EXPECT_EQ(back[0].GetVariableName(), CString(u"Y"));
+    EXPECT_EQ(back[0].GetLabel(), CString(u"yield"));
+    EXPECT_EQ(back[1].GetVariableName(), CString(u"B$"));
+    EXPECT_EQ(back[1].IsSelected(), 1);
+}
+
+TEST(ListArchive, TextNumberAndNestedListsRoundTrip)
+{
+    CGUIArray<CString> names{CString(u"a"), CString(u"level two")};
+    CGUIArray<int> levels{2, -3};
+    CGUIArray<double> weights{0.5};
+    CGUIArray<CGUIArray<CGUIDataVariable>> sets;
+    sets.Add(TwoVariables());
+    sets.Add(CGUIArray<CGUIDataVariable>());
+
+    const Bytes bytes = Store([&](CArchive& ar) {
+        names.Serialize(ar);
+        levels.Serialize(ar);
+        weights.Serialize(ar);
+        sets.Serialize(ar);
+    });
+    // The int list in the middle is count + raw values.
+    const Bytes intPart = Cat({{0x02, 0x00}, Int32(2), Int32(-3)});
+    EXPECT_NE(std::search(bytes.begin(), bytes.end(), intPart.begin(), intPart.end()), bytes.end());
+
+    CGUIArray<CString> names2;
+    CGUIArray<int> levels2;
+    CGUIArray<double> weights2;
+    CGUIArray<CGUIArray<CGUIDataVariable>> sets2;
+    Load(bytes, [&](CArchive& ar) {
+        names2.Serialize(ar);
+        levels2.Serialize(ar);
+        weights2.Serialize(ar);
+        sets2.Serialize(ar);
+    });
+    EXPECT_EQ(names2, names);
+    EXPECT_EQ(levels2, levels);
+    EXPECT_EQ(weights2, weights);
+    ASSERT_EQ(sets2.GetSize(), 2);
+    EXPECT_EQ(sets2[0].GetSize(), 2);
+    EXPECT_EQ(sets2[1].GetSize(), 0);
+}
+
+TEST(ArchiveRobustness, ARecordCutAtAnyByteEndsInEndOfFile)
+{
+    CGUIData<double> value(0, 2.5, 0.001, 0, 1);
+    auto variables = TwoVariables();
+    CGUIArray<CString> names{CString(u"a"), CString(u"b")};
+    CGUIArray<int> levels{2, 3};
+    const auto transfer = [&](CArchive& ar) {
+        value.Serialize(ar);
+        variables.Serialize(ar);
+        names.Serialize(ar);
+        levels.Serialize(ar);
+    };
+    for (const UINT schema : {UINT{CArchive::plainLists}, UINT{CArchive::namedLists}}) {
+        const Bytes whole = Store(transfer, schema);
+        for (std::size_t cut = 0; cut < whole.size(); ++cut) {
+            SCOPED_TRACE(cut);
+            const Bytes part(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(cut));
+            try {
+                Load(part, transfer, schema);
+                ADD_FAILURE() << "loaded " << cut << " of " << whole.size() << " bytes";
+            } catch (const CArchiveException& e) {
+                EXPECT_EQ(e.m_cause, CArchiveException::endOfFile);
+            }
+        }
+    }
+}
+
+TEST(ArchiveRobustness, AFailedLoadLeavesTheListAsItWas)
+{
+    auto list = TwoVariables();
+    const Bytes truncated = {0x05, 0x00, 0, 0, 0, 0};
+    EXPECT_THROW(Load(truncated, [&](CArchive& ar) { list.Serialize(ar); }), CArchiveException);
+    ASSERT_EQ(list.GetSize(), 2);
+    EXPECT_EQ(list[0].GetVariableName(), CString(u"Y"));
+}

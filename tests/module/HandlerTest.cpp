@@ -1,0 +1,56 @@
+// Menu-group handlers: which ids each answers and what the base records.
+#include "Msg/MixedModelMsg.h"
+#include "Msg/QualityAnalysisMsg.h"
+#include "Msg/RegressionMsg.h"
+#include "Msg/Stat2SingleMenuItemsMsg.h"
+#include "tests/support/FakeHost.h"
+
+#include <gtest/gtest.h>
+
+using namespace kaltest;
+
+TEST(Handlers, RecordTheIdAndAnswerOnlyTheirRows)
+{
+    FakeHost host;
+    CMixedModelMsg mixed(&host);
+    for (const UINT gap : {2070u, 2071u, 2072u, 2066u, 2074u}) {
+        mixed.OnKVCommand(gap);
+        EXPECT_EQ(mixed.GetDID(), gap);
+    }
+    EXPECT_TRUE(host.messages.empty());
+
+    CQualityAnalysisMsg quality(&host);
+    quality.OnKVCommand(2044);
+    EXPECT_TRUE(host.messages.empty());
+
+    CStat2SingleMenuItemsMsg single(&host);
+    for (UINT id = 2014; id <= 2079; ++id)
+        single.OnKVCommand(id);
+    EXPECT_EQ(host.messages.size(), 6u); // 2014, 2059, 2063, 2065, 2078, 2079
+}
+
+TEST(Handlers, RowsWithoutTheirAnalysisReportNotAvailable)
+{
+    FakeHost host;
+    CRegressionMsg regression(&host);
+    regression.OnKVCommand(2070);
+    ASSERT_EQ(host.messages.size(), 1u);
+    EXPECT_EQ(host.messages[0], 100190500u);
+    EXPECT_TRUE(host.store.empty());
+    const MenuCommandRow* row = regression.FindRow(2070);
+    ASSERT_NE(row, nullptr);
+    EXPECT_STREQ(row->dialogClass, "CMregLtsTabDlg");
+    EXPECT_EQ(row->captions[0], 2386u);
+    EXPECT_EQ(row->captions[1], 2148u);
+    EXPECT_EQ(regression.FindRow(2002), nullptr);
+}
+
+TEST(Handlers, AMissingGlobalIsReportedFromTheHandlersSource)
+{
+    AssertionCapture capture;
+    CQualityAnalysisMsg quality(nullptr);
+    ASSERT_EQ(capture.reports.size(), 1u);
+    EXPECT_EQ(capture.reports[0], std::make_pair(std::string("Msg/QualityAnalysisMsg"), 36));
+    quality.SetParent(&capture);
+    EXPECT_EQ(quality.GetParent(), &capture);
+}

@@ -1,0 +1,63 @@
+// Helpers for archive tests: write through a storing archive into bytes,
+// read bytes back through a loading archive.
+#pragma once
+
+#include "platform/Archive.h"
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+namespace kaltest {
+
+using Bytes = std::vector<BYTE>;
+
+template <class Fn>
+Bytes Store(Fn&& write, UINT schema = CArchive::plainLists)
+{
+    CMemFile file;
+    {
+        CArchive ar(&file, CArchive::store);
+        ar.SetSchemaFlags(schema);
+        write(ar);
+        ar.Close();
+    }
+    return file.Detach();
+}
+
+template <class Fn>
+void Load(const Bytes& bytes, Fn&& read, UINT schema = CArchive::plainLists)
+{
+    CMemFile file(bytes);
+    CArchive ar(&file, CArchive::load);
+    ar.SetSchemaFlags(schema);
+    read(ar);
+}
+
+// Concatenates byte pieces: Cat({0xFF, 0xFE}, Repeat(...)).
+inline Bytes Cat(std::initializer_list<Bytes> pieces)
+{
+    Bytes all;
+    for (const auto& p : pieces)
+        all.insert(all.end(), p.begin(), p.end());
+    return all;
+}
+
+// `count` UTF-16 units of `unit`, little-endian.
+inline Bytes Units(std::size_t count, char16_t unit)
+{
+    Bytes bytes;
+    for (std::size_t i = 0; i < count; ++i) {
+        bytes.push_back(static_cast<BYTE>(unit & 0xFF));
+        bytes.push_back(static_cast<BYTE>(unit >> 8));
+    }
+    return bytes;
+}
+
+inline Bytes Int32(std::int32_t v)
+{
+    const auto u = static_cast<std::uint32_t>(v);
+    return {static_cast<BYTE>(u), static_cast<BYTE>(u >> 8), static_cast<BYTE>(u >> 16), static_cast<BYTE>(u >> 24)};
+}
+
+} // namespace kaltest
