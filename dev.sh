@@ -1,0 +1,74 @@
+#!/usr/bin/env bash
+# One entry point for set-up, build, run and test on a Debian 12 machine.
+#   ./dev.sh run        install what is missing, build, run kalhost on the sample data
+#   ./dev.sh test       install what is missing, build both presets, run every test
+#   ./dev.sh fuzz [S]   build the libFuzzer targets with clang, run each S seconds (60)
+#   ./dev.sh bench      build and run the benchmarks
+#   ./dev.sh deps       only install the build dependencies
+set -euo pipefail
+cd "$(dirname "$0")"
+
+PACKAGES=(
+    cmake ninja-build g++ clang libclang-rt-14-dev
+    libgtest-dev libgmock-dev libbenchmark-dev
+    nlohmann-json3-dev libcli11-dev libcsv-dev
+    qt6-base-dev
+)
+
+deps() {
+    local missing=()
+    for p in "${PACKAGES[@]}"; do
+        dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    local sudo=()
+    [ "$(id -u)" -eq 0 ] || sudo=(sudo)
+    echo "Installing: ${missing[*]}"
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -q
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
+}
+
+build() {
+    cmake --preset "$1" >/dev/null
+    cmake --build --preset "$1"
+}
+
+case "${1:-}" in
+run)
+    deps
+    build default
+    build/default/bin/kalhost list
+    ;;
+test)
+    deps
+    build default
+    ctest --preset default
+    build asan
+    ctest --preset asan
+    ;;
+fuzz)
+    deps
+    build fuzz
+    seconds="${2:-60}"
+    for corpus in fuzz/corpus/*/; do
+        name="fuzz_$(basename "$corpus" | tr - _)"
+        work="build/fuzz/corpus/$(basename "$corpus")"
+        mkdir -p "$work"
+        cp -n "$corpus"* "$work"/ 2>/dev/null || true
+        echo "== $name for ${seconds}s"
+        "build/fuzz/bin/$name" -max_total_time="$seconds" -print_final_stats=1 "$work"
+    done
+    ;;
+bench)
+    deps
+    build default
+    for b in build/default/bin/bench_*; do "$b"; done
+    ;;
+deps)
+    deps
+    ;;
+*)
+    sed -n '2,8p' "$0"
+    exit 2
+    ;;
+esac
