@@ -42,8 +42,10 @@ struct ControlTemplate {
     CString caption;
     int x = 0, y = 0, cx = 0, cy = 0;
     DWORD style = WS_TABSTOP;
-    // Column headers of a grid, tab captions of a tab control.
+    // Column headers of a grid.
     std::vector<CString> columns;
+    // The tool tip a dialog gives the control unless it sets its own.
+    CString tip;
 };
 
 struct DialogTemplate {

@@ -1,0 +1,130 @@
+#include "platform/DataExchange.h"
+
+#include "platform/Diagnostics.h"
+#include "platform/Exceptions.h"
+
+#include <charconv>
+#include <cmath>
+#include <string>
+
+namespace {
+
+// The whole text (blanks around it aside) must be the number; from_chars
+// ignores the C locale, which a GUI toolkit may have changed.
+template <class T>
+bool ParseWhole(CString text, T& value)
+{
+    const std::string s = text.Trim().ToUtf8();
+    const char* first = s.data() + (s.size() > 1 && s[0] == '+' ? 1 : 0);
+    const auto [end, error] = std::from_chars(first, s.data() + s.size(), value);
+    return !s.empty() && error == std::errc() && end == s.data() + s.size();
+}
+
+} // namespace
+
+CWnd* CDataExchange::PrepareCtrl(UINT id)
+{
+    m_idLastControl = id;
+    CWnd* control = m_pDlgWnd->GetDlgItem(id);
+    if (!control)
+        kal::ReportAssertion("platform/DataExchange", __LINE__);
+    return control;
+}
+
+void CDataExchange::Fail()
+{
+    throw CUserException();
+}
+
+void DDX_Control(CDataExchange* pDX, UINT id, CWnd& control)
+{
+    if (control.IsCreated() && control.GetParent() == pDX->m_pDlgWnd && control.GetDlgCtrlID() == id)
+        return;
+    if (!pDX->PrepareCtrl(id))
+        return;
+    control.SubclassDlgItem(id, pDX->m_pDlgWnd);
+}
+
+void DDX_Check(CDataExchange* pDX, UINT id, int& value)
+{
+    auto* button = dynamic_cast<CButton*>(pDX->PrepareCtrl(id));
+    if (!button)
+        return;
+    if (pDX->m_bSaveAndValidate)
+        value = button->GetCheck();
+    else
+        button->SetCheck(value);
+}
+
+void DDX_Radio(CDataExchange* pDX, UINT firstId, int& index)
+{
+    CWnd* first = pDX->PrepareCtrl(firstId);
+    if (!first)
+        return;
+    const auto group = pDX->m_pDlgWnd->GetRadioGroup(first);
+    if (pDX->m_bSaveAndValidate) {
+        index = -1;
+        for (std::size_t i = 0; i < group.size(); ++i)
+            if (group[i]->GetCheck())
+                index = static_cast<int>(i);
+        return;
+    }
+    for (std::size_t i = 0; i < group.size(); ++i)
+        group[i]->SetCheck(static_cast<int>(i) == index ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void DDX_CBIndex(CDataExchange* pDX, UINT id, int& index)
+{
+    auto* combo = dynamic_cast<CComboBox*>(pDX->PrepareCtrl(id));
+    if (!combo)
+        return;
+    if (pDX->m_bSaveAndValidate)
+        index = combo->GetCurSel();
+    else
+        combo->SetCurSel(index);
+}
+
+void DDX_Text(CDataExchange* pDX, UINT id, CString& value)
+{
+    CWnd* control = pDX->PrepareCtrl(id);
+    if (!control)
+        return;
+    if (pDX->m_bSaveAndValidate)
+        value = control->GetWindowText();
+    else
+        control->SetWindowText(value);
+}
+
+void DDX_Text(CDataExchange* pDX, UINT id, int& value)
+{
+    CWnd* control = pDX->PrepareCtrl(id);
+    if (!control)
+        return;
+    if (!pDX->m_bSaveAndValidate) {
+        control->SetWindowText(CString::FromNumber(value));
+        return;
+    }
+    int parsed = 0;
+    if (!ParseWhole(control->GetWindowText(), parsed)) {
+        AfxMessageBox(AFX_IDP_PARSE_INT);
+        pDX->Fail();
+    }
+    value = parsed;
+}
+
+void DDX_Text(CDataExchange* pDX, UINT id, double& value)
+{
+    CWnd* control = pDX->PrepareCtrl(id);
+    if (!control)
+        return;
+    if (!pDX->m_bSaveAndValidate) {
+        control->SetWindowText(CString::FromNumber(value));
+        return;
+    }
+    double parsed = 0;
+    if (!ParseWhole(control->GetWindowText(), parsed) || !std::isfinite(parsed)) {
+        AfxMessageBox(AFX_IDP_PARSE_REAL);
+        pDX->Fail();
+    }
+    value = parsed;
+}

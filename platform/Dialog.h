@@ -1,0 +1,105 @@
+// CDialog: a window built from a dialog template. DoModal creates the
+// controls, runs OnInitDialog and hands the dialog to the active driver,
+// which runs it until EndDialog. Create makes it a child (a tab page).
+#pragma once
+
+#include "platform/Cursor.h"
+#include "platform/Menu.h"
+#include "platform/Wnd.h"
+
+#include <functional>
+#include <memory>
+
+class CDataExchange;
+
+class CDialog : public CWnd {
+    DECLARE_DYNAMIC(CDialog)
+public:
+    explicit CDialog(UINT templateId, CWnd* parent = nullptr);
+    ~CDialog() override;
+
+    UINT GetTemplateID() const { return m_nTemplateID; }
+    const DialogTemplate* GetDialogTemplate() const { return m_template.get(); }
+
+    // -1 when the template or the driver is missing.
+    virtual INT_PTR DoModal();
+    // Creates the dialog as a child window of `parent`.
+    BOOL CreateChild(CWnd* parent);
+    void DestroyWindow();
+
+    virtual BOOL OnInitDialog();
+    virtual void OnOK();
+    virtual void OnCancel();
+    void EndDialog(int result);
+    bool IsModal() const { return m_bModal; }
+    // A modal dialog that has not ended yet.
+    bool IsRunning() const { return m_bModal && !m_bEnded; }
+    int GetModalResult() const { return m_nResult; }
+
+    BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
+    virtual void DoDataExchange(CDataExchange* pDX);
+
+    void CheckDlgButton(UINT id, UINT check);
+    UINT IsDlgButtonChecked(UINT id) const;
+    void CheckRadioButton(UINT firstId, UINT lastId, UINT checkId);
+    int GetCheckedRadioButton(UINT firstId, UINT lastId) const;
+    void SetDlgItemText(UINT id, const CString& text);
+    CString GetDlgItemText(UINT id) const;
+
+    // The radio buttons of the group that `radio` belongs to, in template
+    // order: a group starts at a radio button with WS_GROUP (or after any
+    // other control) and runs until the next control that is not a radio
+    // button or starts a group of its own.
+    std::vector<CButton*> GetRadioGroup(const CWnd* radio) const;
+
+    // User input routed to the dialog (see CUserInput).
+    virtual void OnDragOver(CWnd* over);
+    virtual void OnDragRelease(CWnd* over);
+    virtual void OnContextMenu(CWnd* wnd);
+
+    BOOL OnCmdMsg(UINT nMessage, int nCode, UINT nID, NMHDR* pNMHDR = nullptr, LRESULT* pResult = nullptr,
+                  CCmdUI* pCmdUI = nullptr) override;
+
+protected:
+    // Builds the controls from the template; false (with an assertion
+    // report) when the resources have no such template.
+    bool CreateControls();
+
+private:
+    UINT m_nTemplateID;
+    std::shared_ptr<const DialogTemplate> m_template;
+    std::vector<std::unique_ptr<CWnd>> m_owned;
+    bool m_bModal = false;
+    bool m_bEnded = false;
+    int m_nResult = 0;
+};
+
+// Pop-up menus and modal runs are the driver's.
+class CDialogDriver {
+public:
+    virtual ~CDialogDriver() = default;
+    // Runs a created, initialised modal dialog until it ends; returns its
+    // result (IDCANCEL when the driver gives up with the dialog open).
+    virtual INT_PTR RunModal(CDialog& dialog) = 0;
+    // Shows `menu` for `owner`; returns the chosen enabled command or 0.
+    virtual UINT TrackPopupMenu(CWnd& owner, const CMenu& menu) = 0;
+};
+
+CDialogDriver* AfxGetDialogDriver();
+// Installs a driver; returns the previous one.
+CDialogDriver* AfxSetDialogDriver(CDialogDriver* driver);
+
+namespace kal {
+
+using DialogTemplateSource = std::function<std::shared_ptr<const DialogTemplate>(UINT)>;
+// Where dialogs find their templates (installed by the framework).
+void SetDialogTemplateSource(DialogTemplateSource source);
+
+using MessageBoxSink = std::function<void(UINT messageId)>;
+// Where AfxMessageBox reports go (installed by the framework).
+void SetMessageBoxSink(MessageBoxSink sink);
+
+} // namespace kal
+
+// Shows message `promptId` to the user.
+void AfxMessageBox(UINT promptId);

@@ -1,0 +1,221 @@
+#include "platform/HeadlessDriver.h"
+
+#include "platform/UserInput.h"
+
+#include <unordered_map>
+
+namespace {
+
+constexpr UINT kResetButton = 14;
+
+std::string IdText(UINT id)
+{
+    return std::to_string(id);
+}
+
+CTabCtrl* TabControlOf(const CDialog& dialog)
+{
+    for (CWnd* child : dialog.GetChildren())
+        if (auto* tabs = dynamic_cast<CTabCtrl*>(child))
+            return tabs;
+    return nullptr;
+}
+
+} // namespace
+
+CDialog* CHeadlessSession::CurrentPage() const
+{
+    CTabCtrl* tabs = TabControlOf(m_dialog);
+    return tabs ? dynamic_cast<CDialog*>(tabs->GetItemPage(tabs->GetCurSel())) : nullptr;
+}
+
+CWnd& CHeadlessSession::Find(UINT id) const
+{
+    if (CDialog* page = CurrentPage())
+        if (CWnd* control = page->GetDlgItem(id))
+            return *control;
+    if (CWnd* control = m_dialog.GetDlgItem(id))
+        return *control;
+    throw HeadlessError("no control " + IdText(id) + " on the current page or the dialog");
+}
+
+template <class T>
+T& CHeadlessSession::As(UINT id, const char* kind) const
+{
+    auto* control = dynamic_cast<T*>(&Find(id));
+    if (!control)
+        throw HeadlessError("control " + IdText(id) + " is not " + kind);
+    return *control;
+}
+
+bool CHeadlessSession::Page(int index)
+{
+    CTabCtrl* tabs = TabControlOf(m_dialog);
+    if (!tabs)
+        throw HeadlessError("the dialog has no pages");
+    if (index < 0 || index >= tabs->GetItemCount())
+        throw HeadlessError("no page " + std::to_string(index) + " (the dialog has " +
+                            std::to_string(tabs->GetItemCount()) + ", counted from 0)");
+    return CUserInput::SelectTab(*tabs, index);
+}
+
+bool CHeadlessSession::Select(UINT list, const std::vector<CString>& names)
+{
+    auto& control = As<CListCtrl>(list, "a list");
+    // One pass over the list, whatever the number of names.
+    std::vector<CString> texts;
+    texts.reserve(static_cast<std::size_t>(control.GetItemCount()));
+    for (int i = 0; i < control.GetItemCount(); ++i)
+        texts.push_back(control.GetItemText(i));
+    std::unordered_map<std::u16string_view, int> index;
+    index.reserve(texts.size());
+    for (int i = static_cast<int>(texts.size()) - 1; i >= 0; --i)
+        index[texts[static_cast<std::size_t>(i)].Str()] = i;
+    std::vector<int> indexes;
+    for (const auto& name : names) {
+        const auto it = index.find(name.Str());
+        if (it == index.end())
+            throw HeadlessError("list " + IdText(list) + " has no item \"" + name.ToUtf8() + "\"");
+        indexes.push_back(it->second);
+    }
+    return CUserInput::SelectItems(control, indexes);
+}
+
+bool CHeadlessSession::Click(UINT id)
+{
+    CWnd& control = Find(id);
+    if (!dynamic_cast<CButton*>(&control))
+        throw HeadlessError("control " + IdText(id) + " is not a button");
+    return CUserInput::Click(control);
+}
+
+bool CHeadlessSession::Check(UINT id, int check)
+{
+    auto& box = As<CButton>(id, "a check box");
+    if (box.GetKind() != ControlKind::CheckBox && box.GetKind() != ControlKind::RadioButton)
+        throw HeadlessError("control " + IdText(id) + " is not a check box");
+    if (box.GetKind() == ControlKind::RadioButton)
+        return check ? CUserInput::Click(box) : CUserInput::IsReachable(box);
+    return CUserInput::SetCheck(box, check);
+}
+
+bool CHeadlessSession::Choose(UINT combo, int index)
+{
+    auto& control = As<CComboBox>(combo, "a combo box");
+    if (index < 0 || index >= control.GetCount())
+        throw HeadlessError("combo box " + IdText(combo) + " has no entry " + std::to_string(index) + " (it has " +
+                            std::to_string(control.GetCount()) + ")");
+    return CUserInput::ChooseItem(control, index);
+}
+
+bool CHeadlessSession::Type(UINT edit, const CString& text)
+{
+    CWnd& control = Find(edit);
+    if (control.GetKind() != ControlKind::Edit && control.GetKind() != ControlKind::FileEdit)
+        throw HeadlessError("control " + IdText(edit) + " is not an edit field");
+    return CUserInput::TypeText(control, text);
+}
+
+bool CHeadlessSession::Cell(UINT grid, int row, int column, const CString& text)
+{
+    auto& control = As<CGridCtrl>(grid, "a grid");
+    if (row < 1 || row > control.GetRowCount() || column < 1 || column >= control.GetColumnCount())
+        throw HeadlessError("grid " + IdText(grid) + " has no editable cell " + std::to_string(row) + "," +
+                            std::to_string(column));
+    return CUserInput::EditCell(control, row, column, text);
+}
+
+bool CHeadlessSession::DoubleClick(UINT list)
+{
+    return CUserInput::DoubleClick(As<CListCtrl>(list, "a list"));
+}
+
+bool CHeadlessSession::Drag(UINT list, UINT target)
+{
+    auto& from = As<CListCtrl>(list, "a list");
+    CWnd& over = Find(target);
+    if (!CUserInput::BeginDrag(from))
+        return false;
+    CUserInput::DragOver(from, &over);
+    m_lastDragCursor = GetCursor();
+    CUserInput::Drop(from, &over);
+    return true;
+}
+
+bool CHeadlessSession::Menu(UINT list, UINT command)
+{
+    auto& control = As<CListCtrl>(list, "a list");
+    m_driver.SetMenuChoice(command);
+    const bool shown = CUserInput::ContextMenu(control);
+    m_driver.SetMenuChoice(0);
+    return shown;
+}
+
+bool CHeadlessSession::Reset()
+{
+    CDialog* page = CurrentPage();
+    CWnd* button = (page ? page : &m_dialog)->GetDlgItem(kResetButton);
+    if (!button)
+        throw HeadlessError("the current page has no reset button");
+    return CUserInput::Click(*button);
+}
+
+bool CHeadlessSession::Ok()
+{
+    if (CWnd* button = m_dialog.GetDlgItem(static_cast<UINT>(IDOK)))
+        return CUserInput::Click(*button);
+    m_dialog.OnOK();
+    return true;
+}
+
+bool CHeadlessSession::Cancel()
+{
+    if (CWnd* button = m_dialog.GetDlgItem(static_cast<UINT>(IDCANCEL)))
+        return CUserInput::Click(*button);
+    m_dialog.OnCancel();
+    return true;
+}
+
+int CHeadlessSession::IsChecked(UINT id) const
+{
+    return As<CButton>(id, "a button").GetCheck();
+}
+
+std::vector<CString> CHeadlessSession::Items(UINT list) const
+{
+    const auto& control = As<CListCtrl>(list, "a list");
+    std::vector<CString> items;
+    for (int i = 0; i < control.GetItemCount(); ++i)
+        items.push_back(control.GetItemText(i));
+    return items;
+}
+
+int CHeadlessSession::ComboSelection(UINT combo) const
+{
+    return As<CComboBox>(combo, "a combo box").GetCurSel();
+}
+
+CString CHeadlessSession::Text(UINT id) const
+{
+    CWnd& control = Find(id);
+    if (auto* combo = dynamic_cast<CComboBox*>(&control))
+        return combo->GetLBText(combo->GetCurSel());
+    return control.GetWindowText();
+}
+
+INT_PTR CHeadlessDriver::RunModal(CDialog& dialog)
+{
+    CHeadlessSession session(dialog, *this);
+    if (m_script)
+        m_script(session);
+    m_lastLeftOpen = dialog.IsRunning();
+    if (m_lastLeftOpen)
+        dialog.EndDialog(IDCANCEL);
+    return dialog.GetModalResult();
+}
+
+UINT CHeadlessDriver::TrackPopupMenu(CWnd&, const CMenu& menu)
+{
+    m_lastMenu = menu;
+    return menu.IsEnabled(m_menuChoice) ? m_menuChoice : 0;
+}

@@ -1,0 +1,90 @@
+// The headless driver: runs a modal dialog by replaying actions, with no
+// window system. A script (a function given the running dialog's session)
+// acts and checks until it closes the dialog or returns; a dialog still
+// running then counts as left open and ends with IDCANCEL.
+#pragma once
+
+#include "platform/Dialog.h"
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+class CHeadlessDriver;
+
+// An action the dialog cannot take as asked: an unknown control, item or
+// index, a control of the wrong kind.
+class HeadlessError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// One running dialog as a script sees it. Controls are addressed by id on
+// the current page of the dialog's tab control, then on the dialog itself.
+// Actions on controls the user cannot reach have no effect and return false.
+class CHeadlessSession {
+public:
+    CHeadlessSession(CDialog& dialog, CHeadlessDriver& driver) : m_dialog(dialog), m_driver(driver) {}
+
+    CDialog& Dialog() const { return m_dialog; }
+    bool IsOpen() const { return m_dialog.IsRunning(); }
+    CDialog* CurrentPage() const;
+    CWnd& Find(UINT id) const; // throws HeadlessError
+
+    bool Page(int index); // 0 is the first page
+    bool Select(UINT list, const std::vector<CString>& names);
+    bool Click(UINT id);
+    bool Check(UINT id, int check);
+    bool Choose(UINT combo, int index);
+    bool Type(UINT edit, const CString& text);
+    bool Cell(UINT grid, int row, int column, const CString& text);
+    bool DoubleClick(UINT list);
+    bool Drag(UINT list, UINT target);
+    bool Menu(UINT list, UINT command);
+    bool Reset(); // the current page's reset button (14)
+    bool Ok();
+    bool Cancel();
+
+    bool IsEnabled(UINT id) const { return Find(id).IsWindowEnabled(); }
+    bool IsVisible(UINT id) const { return Find(id).IsWindowVisible(); }
+    int IsChecked(UINT id) const;
+    std::vector<CString> Items(UINT list) const;
+    int ComboSelection(UINT combo) const;
+    // The window text; for a combo box the text of its selected entry.
+    CString Text(UINT id) const;
+    // The cursor shown during the last drag (Arrow when there was none).
+    HCURSOR LastDragCursor() const { return m_lastDragCursor; }
+
+private:
+    template <class T>
+    T& As(UINT id, const char* kind) const;
+
+    CDialog& m_dialog;
+    CHeadlessDriver& m_driver;
+    HCURSOR m_lastDragCursor = CursorShape::Arrow;
+};
+
+class CHeadlessDriver : public CDialogDriver {
+public:
+    using Script = std::function<void(CHeadlessSession&)>;
+
+    // The script for the next dialogs; without one they end left open.
+    void SetScript(Script script) { m_script = std::move(script); }
+    // Whether the last dialog ended because its script stopped with it open.
+    bool LastLeftOpen() const { return m_lastLeftOpen; }
+
+    INT_PTR RunModal(CDialog& dialog) override;
+    UINT TrackPopupMenu(CWnd& owner, const CMenu& menu) override;
+
+    // The command the next pop-up menu answers with (0 picks nothing).
+    void SetMenuChoice(UINT id) { m_menuChoice = id; }
+    // Items and enable states of the last menu shown.
+    const CMenu& LastMenu() const { return m_lastMenu; }
+
+private:
+    Script m_script;
+    bool m_lastLeftOpen = false;
+    UINT m_menuChoice = 0;
+    CMenu m_lastMenu;
+};

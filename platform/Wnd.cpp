@@ -1,0 +1,383 @@
+#include "platform/Wnd.h"
+
+#include <algorithm>
+
+IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
+IMPLEMENT_DYNAMIC(CStatic, CWnd)
+IMPLEMENT_DYNAMIC(CButton, CWnd)
+IMPLEMENT_DYNAMIC(CEdit, CWnd)
+IMPLEMENT_DYNAMIC(CComboBox, CWnd)
+IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
+IMPLEMENT_DYNAMIC(CTabCtrl, CWnd)
+IMPLEMENT_DYNAMIC(CGridCtrl, CWnd)
+
+namespace {
+
+constexpr int kDefaultColumnWidth = 60;
+
+} // namespace
+
+CWnd::~CWnd() = default;
+
+void CWnd::Changed(WndAspect aspect)
+{
+    if (m_pView)
+        m_pView->Refresh(*this, aspect);
+}
+
+BOOL CWnd::EnableWindow(BOOL enable)
+{
+    const BOOL wasDisabled = !m_bEnabled;
+    if (m_bEnabled != (enable != FALSE)) {
+        m_bEnabled = enable != FALSE;
+        Changed(WndAspect::Enabled);
+    }
+    return wasDisabled;
+}
+
+void CWnd::ShowWindow(int command)
+{
+    const bool visible = command != SW_HIDE;
+    if (m_bVisible != visible) {
+        m_bVisible = visible;
+        Changed(WndAspect::Visible);
+    }
+}
+
+void CWnd::SetWindowText(const CString& text)
+{
+    if (m_strText == text)
+        return;
+    m_strText = text;
+    Changed(WndAspect::Text);
+}
+
+void CWnd::Invalidate(BOOL)
+{
+    ++m_nInvalidated;
+    OnInvalidated();
+    Changed(WndAspect::Invalidated);
+}
+
+void CWnd::SetToolTipText(const CString& text)
+{
+    if (m_strToolTip == text)
+        return;
+    m_strToolTip = text;
+    Changed(WndAspect::ToolTip);
+}
+
+CWnd* CWnd::GetDlgItem(UINT id) const
+{
+    for (CWnd* child : m_children)
+        if (child->m_nID == id)
+            return child;
+    return nullptr;
+}
+
+bool CWnd::SubclassDlgItem(UINT id, CWnd* parent)
+{
+    CWnd* old = parent ? parent->GetDlgItem(id) : nullptr;
+    if (!old || old == this)
+        return old == this;
+    CopyBaseStateFrom(*old);
+    parent->ReplaceChild(old, this);
+    old->m_pView = nullptr;
+    old->m_bCreated = false;
+    return true;
+}
+
+void CWnd::CopyBaseStateFrom(const CWnd& other)
+{
+    m_nID = other.m_nID;
+    m_kind = other.m_kind;
+    m_pTemplate = other.m_pTemplate;
+    m_pParent = other.m_pParent;
+    m_bCreated = other.m_bCreated;
+    m_bEnabled = other.m_bEnabled;
+    m_bVisible = other.m_bVisible;
+    m_strText = other.m_strText;
+    m_strToolTip = other.m_strToolTip;
+    m_pView = other.m_pView;
+}
+
+void CWnd::InitFromTemplate(const ControlTemplate& t, CWnd* parent)
+{
+    m_nID = t.id;
+    m_kind = t.kind;
+    m_pTemplate = &t;
+    m_pParent = parent;
+    m_bCreated = true;
+    m_bEnabled = (t.style & WS_DISABLED) == 0;
+    m_bVisible = (t.style & WS_HIDDEN) == 0;
+    m_strText = t.caption;
+    if (auto* grid = dynamic_cast<CGridCtrl*>(this)) {
+        grid->SetColumnCount(static_cast<int>(t.columns.size()));
+        grid->SetRowCount(1);
+        for (std::size_t c = 0; c < t.columns.size(); ++c)
+            grid->SetItemText(0, static_cast<int>(c), t.columns[c]);
+    }
+}
+
+void CWnd::ReplaceChild(CWnd* oldChild, CWnd* newChild)
+{
+    std::replace(m_children.begin(), m_children.end(), oldChild, newChild);
+}
+
+void CWnd::Detach()
+{
+    m_bCreated = false;
+    m_pView = nullptr;
+    m_children.clear();
+}
+
+BOOL CWnd::NotifyParent(int code)
+{
+    return m_pParent ? m_pParent->OnCmdMsg(WM_COMMAND, code, m_nID) : FALSE;
+}
+
+BOOL CWnd::NotifyParentEx(int code)
+{
+    if (!m_pParent)
+        return FALSE;
+    NMHDR header{this, m_nID, code};
+    LRESULT result = 0;
+    return m_pParent->OnCmdMsg(WM_NOTIFY, code, m_nID, &header, &result);
+}
+
+void CButton::SetCheck(int check)
+{
+    if (m_nCheck == check)
+        return;
+    m_nCheck = check;
+    Changed(WndAspect::Check);
+}
+
+void CComboBox::ResetContent()
+{
+    m_items.clear();
+    m_nCurSel = CB_ERR;
+    Changed(WndAspect::Items);
+}
+
+int CComboBox::AddString(const CString& text)
+{
+    m_items.push_back(text);
+    Changed(WndAspect::Items);
+    return GetCount() - 1;
+}
+
+int CComboBox::SetCurSel(int index)
+{
+    const int selected = index >= 0 && index < GetCount() ? index : CB_ERR;
+    if (selected != m_nCurSel) {
+        m_nCurSel = selected;
+        Changed(WndAspect::Selection);
+    }
+    return selected;
+}
+
+CString CComboBox::GetLBText(int index) const
+{
+    return index >= 0 && index < GetCount() ? m_items[static_cast<std::size_t>(index)] : CString();
+}
+
+int CListCtrl::InsertItem(int index, const CString& text)
+{
+    index = std::clamp(index, 0, GetItemCount());
+    m_items.insert(m_items.begin() + index, Item{text, false});
+    Changed(WndAspect::Items);
+    return index;
+}
+
+BOOL CListCtrl::DeleteItem(int index)
+{
+    if (index < 0 || index >= GetItemCount())
+        return FALSE;
+    m_items.erase(m_items.begin() + index);
+    Changed(WndAspect::Items);
+    return TRUE;
+}
+
+BOOL CListCtrl::DeleteAllItems()
+{
+    m_items.clear();
+    Changed(WndAspect::Items);
+    return TRUE;
+}
+
+CString CListCtrl::GetItemText(int index) const
+{
+    return index >= 0 && index < GetItemCount() ? m_items[static_cast<std::size_t>(index)].text : CString();
+}
+
+bool CListCtrl::IsItemSelected(int index) const
+{
+    return index >= 0 && index < GetItemCount() && m_items[static_cast<std::size_t>(index)].selected;
+}
+
+void CListCtrl::SetItemSelected(int index, bool selected)
+{
+    if (index < 0 || index >= GetItemCount() || m_items[static_cast<std::size_t>(index)].selected == selected)
+        return;
+    m_items[static_cast<std::size_t>(index)].selected = selected;
+    Changed(WndAspect::Selection);
+}
+
+void CListCtrl::SetSelection(const std::vector<int>& indexes)
+{
+    for (auto& item : m_items)
+        item.selected = false;
+    for (const int i : indexes)
+        if (i >= 0 && i < GetItemCount())
+            m_items[static_cast<std::size_t>(i)].selected = true;
+    Changed(WndAspect::Selection);
+}
+
+std::vector<int> CListCtrl::GetSelectedItems() const
+{
+    std::vector<int> selected;
+    for (std::size_t i = 0; i < m_items.size(); ++i)
+        if (m_items[i].selected)
+            selected.push_back(static_cast<int>(i));
+    return selected;
+}
+
+int CListCtrl::GetSelectedCount() const
+{
+    return static_cast<int>(std::count_if(m_items.begin(), m_items.end(), [](const Item& i) { return i.selected; }));
+}
+
+void CListCtrl::SetItems(std::vector<CString> texts)
+{
+    m_items.clear();
+    m_items.reserve(texts.size());
+    for (auto& text : texts)
+        m_items.push_back(Item{std::move(text), false});
+    Changed(WndAspect::Items);
+}
+
+int CTabCtrl::InsertItem(int index, const CString& caption, CWnd* page)
+{
+    index = std::clamp(index, 0, GetItemCount());
+    m_tabs.insert(m_tabs.begin() + index, Tab{caption, page});
+    if (m_nCurSel < 0)
+        m_nCurSel = 0;
+    Changed(WndAspect::Pages);
+    return index;
+}
+
+CString CTabCtrl::GetItemText(int index) const
+{
+    return index >= 0 && index < GetItemCount() ? m_tabs[static_cast<std::size_t>(index)].caption : CString();
+}
+
+CWnd* CTabCtrl::GetItemPage(int index) const
+{
+    return index >= 0 && index < GetItemCount() ? m_tabs[static_cast<std::size_t>(index)].page : nullptr;
+}
+
+int CTabCtrl::SetCurSel(int index)
+{
+    if (index < 0 || index >= GetItemCount())
+        return -1;
+    const int previous = m_nCurSel;
+    if (index != m_nCurSel) {
+        m_nCurSel = index;
+        Changed(WndAspect::Selection);
+    }
+    return previous;
+}
+
+void CGridCtrl::SetColumnCount(int columns)
+{
+    m_nColumns = std::max(0, columns);
+    for (auto& row : m_cells)
+        row.resize(static_cast<std::size_t>(m_nColumns));
+    m_widths.resize(static_cast<std::size_t>(m_nColumns), kDefaultColumnWidth);
+    Changed(WndAspect::Cells);
+}
+
+void CGridCtrl::SetRowCount(int rows)
+{
+    m_cells.resize(static_cast<std::size_t>(std::max(0, rows)), std::vector<CString>(static_cast<std::size_t>(m_nColumns)));
+    NumberRows();
+    if (m_nFocusRow >= GetRowCount())
+        m_nFocusRow = -1;
+    Changed(WndAspect::Cells);
+}
+
+CString CGridCtrl::GetItemText(int row, int column) const
+{
+    if (row < 0 || row >= GetRowCount() || column < 0 || column >= m_nColumns)
+        return {};
+    return m_cells[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+}
+
+BOOL CGridCtrl::SetItemText(int row, int column, const CString& text)
+{
+    if (column < 0 || column >= m_nColumns || row < 0 || row > GetRowCount())
+        return FALSE;
+    if (row == GetRowCount())
+        SetRowCount(row + 1);
+    m_cells[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = text;
+    Changed(WndAspect::Cells);
+    return TRUE;
+}
+
+int CGridCtrl::InsertRow(int before)
+{
+    before = std::clamp(before, 1, GetRowCount());
+    m_cells.insert(m_cells.begin() + before, std::vector<CString>(static_cast<std::size_t>(m_nColumns)));
+    NumberRows();
+    Changed(WndAspect::Cells);
+    return before;
+}
+
+BOOL CGridCtrl::DeleteRow(int row)
+{
+    if (row < 1 || row >= GetRowCount())
+        return FALSE;
+    m_cells.erase(m_cells.begin() + row);
+    NumberRows();
+    if (m_nFocusRow >= GetRowCount())
+        m_nFocusRow = GetRowCount() - 1 >= 1 ? GetRowCount() - 1 : -1;
+    Changed(WndAspect::Cells);
+    return TRUE;
+}
+
+int CGridCtrl::GetColumnWidth(int column) const
+{
+    return column >= 0 && column < m_nColumns ? m_widths[static_cast<std::size_t>(column)] : 0;
+}
+
+void CGridCtrl::SetColumnWidth(int column, int width)
+{
+    if (column < 0 || column >= m_nColumns)
+        return;
+    m_widths[static_cast<std::size_t>(column)] = width;
+    Changed(WndAspect::Cells);
+}
+
+void CGridCtrl::SetFocusRow(int row)
+{
+    m_nFocusRow = row >= 1 && row < GetRowCount() ? row : -1;
+}
+
+void CGridCtrl::NumberRows()
+{
+    if (m_nColumns == 0)
+        return;
+    for (std::size_t r = 1; r < m_cells.size(); ++r)
+        m_cells[r][0] = CString::FromNumber(static_cast<int>(r));
+}
+
+void CGridCtrl::CopyBaseStateFrom(const CWnd& other)
+{
+    CWnd::CopyBaseStateFrom(other);
+    if (const auto* grid = dynamic_cast<const CGridCtrl*>(&other)) {
+        m_cells = grid->m_cells;
+        m_widths = grid->m_widths;
+        m_nColumns = grid->m_nColumns;
+    }
+}
