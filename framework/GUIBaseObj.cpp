@@ -53,20 +53,23 @@ void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUI
 {
     if (!target || !source)
         return;
-    std::unordered_set<CString> inSource;
+    // Views into the two lists' names: neither list changes until the end.
+    std::unordered_set<std::u16string_view> inSource;
     inSource.reserve(static_cast<std::size_t>(source->GetSize()));
     for (const auto& v : *source)
-        inSource.insert(v.GetVariableName());
+        inSource.insert(v.GetVariableName().Str());
 
     CGUIArray<CGUIDataVariable> updated;
-    std::unordered_set<CString> kept;
+    updated.Reserve(static_cast<std::size_t>(bAdd ? source->GetSize() : target->GetSize()));
+    std::unordered_set<std::u16string_view> kept;
+    kept.reserve(inSource.size());
     for (const auto& v : *target) {
-        if (inSource.count(v.GetVariableName()) && kept.insert(v.GetVariableName()).second)
+        if (inSource.count(v.GetVariableName().Str()) && kept.insert(v.GetVariableName().Str()).second)
             updated.Add(v);
     }
     if (bAdd) {
         for (const auto& v : *source) {
-            if (kept.insert(v.GetVariableName()).second)
+            if (kept.insert(v.GetVariableName().Str()).second)
                 updated.Add(v);
         }
     }
@@ -276,6 +279,8 @@ void CGUIBaseObj::AddVariables(CString& line, const CGUIArray<CGUIDataVariable>&
     bool first = true;
     for (const auto& v : list) {
         const CString& name = v.GetVariableName();
+        if (name.IsEmpty())
+            continue; // an entry whose name was not stored names no variable
         if (ContainsControlCharacter(name)) {
             // Such a name could start a second command line: leave it out.
             CKalAssertDlg("framework/GUIBaseObj", __LINE__).DoPrint();

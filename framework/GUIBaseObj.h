@@ -85,6 +85,9 @@ public:
     // Command building.
     void AddModuleCmd(unsigned int id, CLIST<CCmdInfo>& list) const;
     CString GetModuleCommand(unsigned int id) const;
+    // Appends the names of `list` joined by `separator`. Entries without a
+    // name (lists loaded from a plain archive) are skipped; a name holding a
+    // control character is left out with an assertion report.
     void AddVariables(CString& line, const CGUIArray<CGUIDataVariable>& list, const CString& separator) const;
     CString GetMixedDataVariable(const CGUIArray<CGUIDataVariable>& list, const CString& joiner) const;
 

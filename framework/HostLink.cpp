@@ -3,8 +3,10 @@
 #include "host/IBinReader.h"
 #include "host/IDlgBase.h"
 #include "host/IGlobal.h"
+#include "platform/Dialog.h"
 
 #include <algorithm>
+#include <iostream>
 #include <vector>
 
 namespace {
@@ -34,6 +36,17 @@ IBinReader*& ResourceHandle()
     static IBinReader* handle = nullptr;
     return handle;
 }
+
+// Dialogs find their templates in the host's resources, and their
+// validation messages go to the host's message service.
+const bool g_platformHooksInstalled = [] {
+    kal::SetDialogTemplateSource([](UINT id) -> std::shared_ptr<const DialogTemplate> {
+        IBinReader* reader = KalUseRes::GetGlobalResourceHandle();
+        return reader ? reader->GetDialogTemplate(id) : nullptr;
+    });
+    kal::SetMessageBoxSink([](UINT id) { kal::framework::ReportMessage(id); });
+    return true;
+}();
 
 } // namespace
 
@@ -91,6 +104,8 @@ void ReportMessage(unsigned int id)
 {
     if (IGlobal* host = Host())
         host->ReportMessage(id, 0);
+    else
+        std::cerr << "message " << id << std::endl;
 }
 
 } // namespace kal::framework

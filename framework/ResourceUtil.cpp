@@ -4,6 +4,7 @@
 #include "framework/HostLink.h"
 #include "host/IBinReader.h"
 #include "host/KalAssertDlg.h"
+#include "platform/Dialog.h"
 
 #include <vector>
 
@@ -40,6 +41,22 @@ unsigned int CComboUtil::GetComboItem(unsigned int comboId, int index, unsigned 
 int CComboUtil::GetComboCount(unsigned int comboId, unsigned int dialogId)
 {
     return static_cast<int>(ComboList(comboId, dialogId).size());
+}
+
+void CComboUtil::FillCombo(unsigned int comboId, CComboBox& combo, unsigned int dialogId)
+{
+    combo.ResetContent();
+    for (const auto& entry : ComboList(comboId, dialogId))
+        combo.AddString(entry.text);
+}
+
+void CRadioUtil::FillRadio(const CDialog* dialog, unsigned int groupId)
+{
+    for (const UINT id : RadioGroup(groupId)) {
+        const CWnd* button = dialog ? dialog->GetDlgItem(id) : nullptr;
+        if (!button || button->GetKind() != ControlKind::RadioButton)
+            CKalAssertDlg("framework/ResourceUtil", __LINE__).DoPrint();
+    }
 }
 
 unsigned int CRadioUtil::GetRadioItem(unsigned int groupId, int index)

@@ -6,6 +6,9 @@
 
 #include "platform/CString.h"
 
+class CComboBox;
+class CDialog;
+
 class CComboUtil {
 public:
     // Entry `index` of combo `comboId` as filled for dialog `dialogId`
@@ -13,6 +16,8 @@ public:
     static CString GetComboString(unsigned int comboId, int index, unsigned int dialogId);
     static unsigned int GetComboItem(unsigned int comboId, int index, unsigned int dialogId);
     static int GetComboCount(unsigned int comboId, unsigned int dialogId);
+    // Empties `combo` and fills it with the entries of the combo list.
+    static void FillCombo(unsigned int comboId, CComboBox& combo, unsigned int dialogId);
 };
 
 class CRadioUtil {
@@ -21,6 +26,9 @@ public:
     // `groupId`; 0 when there is none.
     static unsigned int GetRadioItem(unsigned int groupId, int index);
     static int GetRadioIndex(unsigned int groupId, unsigned int controlId);
+    // Checks that every button of the group is a radio button of `dialog`;
+    // each one missing is reported as an assertion.
+    static void FillRadio(const CDialog* dialog, unsigned int groupId);
 };
 
 template <class T>

@@ -1,0 +1,49 @@
+// CBootStrapDlg: the resampling page (template 5400).
+#pragma once
+
+#include "framework/BootStrapData.h"
+#include "framework/GUIBaseDlg.h"
+
+class CBootStrapDlg : public CGUIBaseDlg {
+    DECLARE_DYNAMIC(CBootStrapDlg)
+public:
+    enum : UINT {
+        IDD = 5400,
+        IDC_METHOD_NONE = 5401, // radio group: none, bootstrap, jackknife, subsampling
+        IDC_METHOD_BOOTSTRAP = 5402,
+        IDC_METHOD_JACKKNIFE = 5403,
+        IDC_METHOD_SUBSAMPLING = 5404,
+        IDC_SAMPLES = 5410,
+        IDC_SAMPLE_SIZE = 5411,
+        IDC_RANDOM_SEED = 5412,
+    };
+    // Messages for entries that are not whole numbers or out of range.
+    static constexpr UINT kMsgNotWhole = 2011;
+    static constexpr UINT kMsgOutOfRange = 2012;
+
+    explicit CBootStrapDlg(CWnd* parent = nullptr);
+
+    void SetData(CBootStrapData* data) { m_pData = data; }
+    void SetData(CGUIBaseObj* data) override { m_pData = dynamic_cast<CBootStrapData*>(data); }
+    void GetData(CGUIBaseObj*& data) override { data = m_pData; }
+
+    int GetAll() override;
+    int SetAll() override;
+    int GetAllDefault() override;
+    int SetAllDefault() override;
+    void UpdateDependentWindows() override;
+    void DoDataExchange(CDataExchange* pDX) override;
+    const char* GetSourceFile() const override { return "framework/BootStrapDlg"; }
+
+protected:
+    void OnMethodRadio();
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CBootStrapData* m_pData = nullptr;
+    int m_nMethod = 0;
+    CGUIData<int> m_Samples;
+    CGUIData<int> m_SampleSize;
+    CGUIData<unsigned int> m_RandomSeed;
+};

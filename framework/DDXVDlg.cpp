@@ -1,0 +1,187 @@
+#include "framework/DDXVDlg.h"
+
+#include "framework/FileEditCtrl.h"
+#include "framework/GUIBaseObj.h"
+#include "framework/GUIListCtrl.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+IMPLEMENT_DYNAMIC(CDDXVDlg, CDialog)
+
+namespace {
+
+// Whole-text numbers, the host's decimal separator accepted beside '.'.
+template <class T>
+bool Parse(CString text, T& value)
+{
+    text.Trim();
+    const char16_t separator = kal::framework::DecimalSeparator();
+    if (separator != u'.')
+        text.Replace(std::u16string_view(&separator, 1), u".");
+    const std::string s = text.ToUtf8();
+    if (s.empty() || s[0] == '+')
+        return false;
+    const auto [end, error] = std::from_chars(s.data(), s.data() + s.size(), value);
+    return error == std::errc() && end == s.data() + s.size();
+}
+
+bool IsFinite(double v)
+{
+    return std::isfinite(v);
+}
+
+template <class T>
+bool IsFinite(T)
+{
+    return true;
+}
+
+} // namespace
+
+template <class T>
+void CDDXVDlg::ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, UINT messageId)
+{
+    CWnd* control = pDX->PrepareCtrl(id);
+    if (!control)
+        return;
+    if (!pDX->m_bSaveAndValidate) {
+        control->SetWindowText(CGUIBaseObj::NumberText(value.m_Value));
+        return;
+    }
+    T parsed{};
+    if (!Parse(control->GetWindowText(), parsed) || !IsFinite(parsed)) {
+        AfxMessageBox(messageId);
+        pDX->Fail();
+    }
+    value.m_Value = parsed;
+    value.m_nState = value.m_Value == value.m_DefaultValue ? 1 : 0;
+}
+
+void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<int>& value, UINT messageId)
+{
+    ExchangeNumber(pDX, id, value, messageId);
+}
+
+void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<unsigned int>& value, UINT messageId)
+{
+    ExchangeNumber(pDX, id, value, messageId);
+}
+
+void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<double>& value, UINT messageId)
+{
+    ExchangeNumber(pDX, id, value, messageId);
+}
+
+void CDDXVDlg::DDX_CheckState(CDataExchange* pDX, UINT id, CGUIDataWnd<int>& value)
+{
+    auto* button = dynamic_cast<CButton*>(pDX->PrepareCtrl(id));
+    if (!button)
+        return;
+    if (pDX->m_bSaveAndValidate) {
+        value.m_Value = button->GetCheck();
+        value.m_nWindowState = button->IsWindowEnabled() ? 1 : 0;
+    } else {
+        button->SetCheck(value.m_Value);
+        button->EnableWindow(value.m_nWindowState != 0);
+    }
+}
+
+void CDDXVDlg::DDV_MinMaxDouble(CDataExchange* pDX, const CGUIData<double>& value, const CGUIData<double>& min,
+                                const CGUIData<double>& max, UINT messageId, int bMinOpen, int bMaxOpen)
+{
+    if (!pDX->m_bSaveAndValidate)
+        return;
+    const double v = value.m_Value;
+    const bool belowMin = bMinOpen ? v <= min.m_Value : v < min.m_Value;
+    const bool aboveMax = bMaxOpen ? v >= max.m_Value : v > max.m_Value;
+    if (belowMin || aboveMax) {
+        AfxMessageBox(messageId);
+        pDX->Fail();
+    }
+}
+
+void CDDXVDlg::DDV_MinMaxInt(CDataExchange* pDX, const CGUIData<int>& value, int min, int max, UINT messageId)
+{
+    if (pDX->m_bSaveAndValidate && (value.m_Value < min || value.m_Value > max)) {
+        AfxMessageBox(messageId);
+        pDX->Fail();
+    }
+}
+
+void CDDXVDlg::DDX_Text(CDataExchange* pDX, UINT id, CString& value, int nMaxChars, int bNotEmpty, int bTrim,
+                        UINT messageId)
+{
+    CWnd* control = pDX->PrepareCtrl(id);
+    if (!control)
+        return;
+    if (!pDX->m_bSaveAndValidate) {
+        control->SetWindowText(value);
+        return;
+    }
+    CString text = control->GetWindowText();
+    if (bTrim)
+        text.Trim();
+    if ((bNotEmpty && text.IsEmpty()) || (nMaxChars > 0 && text.GetLength() > nMaxChars)) {
+        AfxMessageBox(messageId);
+        pDX->Fail();
+    }
+    value = text;
+}
+
+void CDDXVDlg::DDX_ListCtrlArray(CDataExchange* pDX, UINT id, CGUIArray<CGUIDataVariable>& list, UINT nTypeFilter,
+                                 int bKeepSelection, int bSort)
+{
+    auto* control = dynamic_cast<CGUIListCtrl*>(pDX->PrepareCtrl(id));
+    if (!control)
+        return;
+    if (pDX->m_bSaveAndValidate) {
+        CGUIArray<CGUIDataVariable> shown = control->GetVariables();
+        if (!bKeepSelection)
+            for (auto& v : shown)
+                v.SetSelected(0);
+        if (nTypeFilter == 0) {
+            list = std::move(shown);
+            return;
+        }
+        // Variables the filter hid stay in the list, behind the shown ones.
+        for (const auto& v : list)
+            if (static_cast<UINT>(v.GetVariableType()) != nTypeFilter)
+                shown.Add(v);
+        list = std::move(shown);
+        return;
+    }
+    CGUIArray<CGUIDataVariable> shown;
+    for (const auto& v : list)
+        if (nTypeFilter == 0 || static_cast<UINT>(v.GetVariableType()) == nTypeFilter)
+            shown.Add(v);
+    if (bSort)
+        std::stable_sort(shown.begin(), shown.end(), [](const CGUIDataVariable& a, const CGUIDataVariable& b) {
+            return a.GetVariableName() < b.GetVariableName();
+        });
+    control->SetVariables(shown, bKeepSelection != 0);
+}
+
+void CDDXVDlg::DDX_ControlWarn(CDataExchange* pDX, UINT id, UINT messageId)
+{
+    if (!pDX->m_bSaveAndValidate || messageId == 0)
+        return;
+    pDX->m_idLastControl = id;
+    AfxMessageBox(messageId);
+    pDX->Fail();
+}
+
+void CDDXVDlg::DDX_FileEditCtrl(CDataExchange* pDX, UINT id, CFileEditCtrl& control, CString& fileName,
+                                int bSaveDialog, int bPromptOverwrite, int bMustExist, const CString& defaultExtension,
+                                const CString& filter, int)
+{
+    DDX_Control(pDX, id, control);
+    if (!control.IsCreated())
+        return;
+    control.SetFileDialogOptions(bSaveDialog != 0, bPromptOverwrite != 0, bMustExist != 0, defaultExtension, filter);
+    if (pDX->m_bSaveAndValidate)
+        fileName = control.GetWindowText().Trim();
+    else
+        control.SetWindowText(fileName);
+}

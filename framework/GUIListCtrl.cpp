@@ -1,0 +1,109 @@
+#include "framework/GUIListCtrl.h"
+
+#include <unordered_set>
+
+IMPLEMENT_DYNAMIC(CGUIListCtrl, CListCtrl)
+
+void CGUIListCtrl::SetVariables(const CGUIArray<CGUIDataVariable>& variables, bool bKeepSelection)
+{
+    const int previous = m_nListState;
+    m_nListState = stateFilling;
+    m_variables = variables;
+    std::vector<CString> names;
+    names.reserve(static_cast<std::size_t>(variables.GetSize()));
+    std::vector<int> selected;
+    for (int i = 0; i < variables.GetSize(); ++i) {
+        names.push_back(variables[i].GetVariableName());
+        if (bKeepSelection && variables[i].IsSelected())
+            selected.push_back(i);
+    }
+    SetItems(std::move(names));
+    if (!selected.empty())
+        SetSelection(selected);
+    Reindex();
+    m_nListState = previous == stateFilling ? stateIdle : previous;
+}
+
+CGUIArray<CGUIDataVariable> CGUIListCtrl::GetVariables() const
+{
+    CGUIArray<CGUIDataVariable> result = m_variables;
+    for (int i = 0; i < result.GetSize(); ++i)
+        result[i].SetSelected(IsItemSelected(i) ? 1 : 0);
+    return result;
+}
+
+int CGUIListCtrl::FindVariable(const CString& name) const
+{
+    const auto it = m_index.find(name);
+    return it == m_index.end() ? -1 : it->second;
+}
+
+std::vector<int> CGUIListCtrl::AddVariables(const std::vector<CGUIDataVariable>& variables, bool bUnique)
+{
+    std::vector<int> added;
+    for (const auto& v : variables) {
+        if (bUnique && m_index.count(v.GetVariableName()))
+            continue;
+        const int at = m_variables.Add(v);
+        m_variables[at].SetSelected(0);
+        m_index.emplace(v.GetVariableName(), at);
+        InsertItem(at, v.GetVariableName());
+        added.push_back(at);
+    }
+    return added;
+}
+
+void CGUIListCtrl::RemoveVariables(const std::vector<int>& indexes)
+{
+    if (indexes.empty())
+        return;
+    std::unordered_set<int> drop(indexes.begin(), indexes.end());
+    CGUIArray<CGUIDataVariable> kept;
+    std::vector<int> keptSelection;
+    for (int i = 0; i < m_variables.GetSize(); ++i) {
+        if (drop.count(i))
+            continue;
+        if (IsItemSelected(i))
+            keptSelection.push_back(kept.GetSize());
+        kept.Add(m_variables[i]);
+    }
+    m_variables = std::move(kept);
+    std::vector<CString> names;
+    for (const auto& v : m_variables)
+        names.push_back(v.GetVariableName());
+    SetItems(std::move(names));
+    SetSelection(keptSelection);
+    Reindex();
+}
+
+std::vector<CGUIDataVariable> CGUIListCtrl::GetSelectedVariables() const
+{
+    std::vector<CGUIDataVariable> selected;
+    for (const int i : GetSelectedItems())
+        selected.push_back(m_variables[i]);
+    return selected;
+}
+
+bool CGUIListCtrl::IsSelectetVariableTypePresent(const CGUIListCtrl* list, int type)
+{
+    if (!list)
+        return false;
+    for (const int i : list->GetSelectedItems())
+        if (static_cast<int>(list->m_variables[i].GetVariableType()) == type)
+            return true;
+    return false;
+}
+
+void CGUIListCtrl::ResetOptions()
+{
+    SetSelection({});
+    m_nListState = stateIdle;
+}
+
+void CGUIListCtrl::Reindex()
+{
+    m_index.clear();
+    m_index.reserve(static_cast<std::size_t>(m_variables.GetSize()));
+    for (int i = 0; i < m_variables.GetSize(); ++i)
+        m_index.emplace(m_variables[i].GetVariableName(), i);
+}
