@@ -1,0 +1,109 @@
+#include "private/Anova/KDGRepeatMeasuresData.h"
+
+#include "framework/StringUtil.h"
+
+IMPLEMENT_SERIAL(CRepeatMeasuresData, CGUIBaseObj, 1)
+
+CRepeatMeasuresData::CRepeatMeasuresData() : m_MeasureAnalysisOnOff(GetDefaultMeasureAnalysisOnOffCheck())
+{
+    GetDefaultName(m_arrStrName);
+    GetDefaultLevels(m_arrLevels);
+    GetDefaultMetric(m_arrStrMetric);
+}
+
+void CRepeatMeasuresData::GetDefaultName(CGUIArray<CString>& names)
+{
+    names.RemoveAll();
+    names.Add(u"a");
+}
+
+void CRepeatMeasuresData::GetDefaultLevels(CGUIArray<int>& levels)
+{
+    levels.RemoveAll();
+    levels.Add(2);
+}
+
+void CRepeatMeasuresData::GetDefaultMetric(CGUIArray<CString>& metric)
+{
+    metric.RemoveAll();
+    metric.Add(CString());
+}
+
+int CRepeatMeasuresData::GetAll(int& onOff, CGUIArray<CString>& names, CGUIArray<int>& levels,
+                                CGUIArray<CString>& metric) const
+{
+    onOff = m_MeasureAnalysisOnOff;
+    names = m_arrStrName;
+    levels = m_arrLevels;
+    metric = m_arrStrMetric;
+    return 1;
+}
+
+int CRepeatMeasuresData::SetAll(int onOff, const CGUIArray<CString>& names, const CGUIArray<int>& levels,
+                                const CGUIArray<CString>& metric)
+{
+    m_MeasureAnalysisOnOff = onOff;
+    m_arrStrName = names;
+    m_arrLevels = levels;
+    m_arrStrMetric = metric;
+    return 1;
+}
+
+bool CRepeatMeasuresData::IsNamesDefault() const
+{
+    bool lettersInOrder = true;
+    for (int i = 0; i < m_arrStrName.GetSize(); ++i) {
+        CString name = m_arrStrName[i];
+        if (name.Trim().IsEmpty())
+            return true;
+        if (m_arrStrName[i] != CString(static_cast<char16_t>(u'a' + i)))
+            lettersInOrder = false;
+    }
+    return lettersInOrder;
+}
+
+CString CRepeatMeasuresData::GetClause(bool anchorHasSlash) const
+{
+    if (m_arrStrMetric.GetSize() < m_arrLevels.GetSize())
+        throw CInvalidArgException();
+    CString clause = anchorHasSlash ? CString(u" REPEAT = ") : CString(u"/ REPEAT = ");
+    for (int i = 0; i < m_arrLevels.GetSize(); ++i) {
+        clause += NumberText(m_arrLevels[i]);
+        CString metric = m_arrStrMetric[i];
+        if (!metric.Trim().IsEmpty())
+            clause += u"(" + m_arrStrMetric[i] + u")";
+        if (i + 1 < m_arrLevels.GetSize())
+            clause += u", ";
+    }
+    if (!IsNamesDefault()) {
+        clause += u", NAMES = ";
+        for (int i = 0; i < m_arrStrName.GetSize(); ++i)
+            clause += (i > 0 ? u", " : u"") + m_arrStrName[i];
+    }
+    return clause;
+}
+
+void CRepeatMeasuresData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
+{
+    if (!m_MeasureAnalysisOnOff)
+        return;
+    const int anchor = CStringUtil::SearchString(list, GetOwnerID() == kAnovaOwner ? u"DEPEND " : u"MODEL");
+    if (anchor < 0)
+        return;
+    CString clause = GetClause(CStringUtil::StringFoundAtIndex(list, u"/", anchor));
+    CStringUtil::RemoveTrailingChar(clause, u'/');
+    CStringUtil::ConcatStringAt(list, clause, anchor);
+}
+
+void CRepeatMeasuresData::Serialize(CArchive& ar)
+{
+    CGUIBaseObj::Serialize(ar);
+    if (ar.IsStoring())
+        ar << m_MeasureAnalysisOnOff;
+    else
+        ar >> m_MeasureAnalysisOnOff;
+    // Names, metric, levels: not member order, and kept so.
+    m_arrStrName.Serialize(ar);
+    m_arrStrMetric.Serialize(ar);
+    m_arrLevels.Serialize(ar);
+}

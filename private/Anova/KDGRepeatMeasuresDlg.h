@@ -1,0 +1,59 @@
+// CRepeatMeasuresDlg: the repeated-measures page (template 2011). A grid
+// row per within-subject factor: number, name, levels, metric. The page is
+// in use only when the model page has at least two dependent variables.
+#pragma once
+
+#include "framework/KVGridMultiCtrlBaseDlg.h"
+#include "private/Anova/KDGRepeatMeasuresData.h"
+
+class CRepeatMeasuresDlg : public CKVGridMultiCtrlBaseDlg {
+    DECLARE_DYNAMIC(CRepeatMeasuresDlg)
+public:
+    enum : UINT {
+        IDD = 2011,
+        IDC_GRID = 4192,
+        IDC_ON_OFF = 4193,
+    };
+    enum Column { colNumber = 0, colName = 1, colLevels = 2, colMetric = 3 };
+    static constexpr UINT kMsgLevelRange = 2005;
+    static constexpr UINT kMsgLevelProduct = 2006;
+    static constexpr UINT kMsgSingleLevel = 2007;
+
+    explicit CRepeatMeasuresDlg(CWnd* parent = nullptr);
+
+    void SetData(CRepeatMeasuresData* data) { m_pData = data; }
+    void SetData(CGUIBaseObj* data) override { m_pData = dynamic_cast<CRepeatMeasuresData*>(data); }
+    void GetData(CGUIBaseObj*& data) override { data = m_pData; }
+
+    BOOL OnInitDialog() override;
+    void DoDataExchange(CDataExchange* pDX) override;
+    int GetAll() override;
+    int SetAll() override;
+    int GetAllDefault() override;
+    int SetAllDefault() override;
+    int OKLike() override;
+    void UpdateDependentWindows() override;
+    BOOL IsWindowEnabled() override;
+    const char* GetSourceFile() const override { return "Source/KDGRepeatMeasuresDlg"; }
+
+    // The dependent variables of the tab dialog's model page (owners 2263,
+    // 2264, 2265); 0 for any other owner.
+    int GetDependentVariableCount() const;
+    // 0 when the levels fit the dependent variables, else the message id.
+    UINT ValidateLevels();
+
+protected:
+    void OnOnOffCheck();
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void FillGridFromData();
+    void FillDataFromGrid();
+
+    CRepeatMeasuresData* m_pData = nullptr;
+    int m_OnOff = 0;
+    CGUIArray<CString> m_arrStrName;
+    CGUIArray<int> m_arrLevels;
+    CGUIArray<CString> m_arrStrMetric;
+};
