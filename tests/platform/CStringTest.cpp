@@ -1,5 +1,7 @@
 #include "platform/CString.h"
 
+#include "tests/support/Printers.h"
+
 #include <gtest/gtest.h>
 
 TEST(CStringText, EditingOperationsFollowTheFramework)

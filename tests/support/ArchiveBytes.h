@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/Archive.h"
+#include "tests/support/Printers.h"
 
 #include <initializer_list>
 #include <string>

@@ -9,6 +9,7 @@
 #include "host/KVMenuBar.h"
 #include "platform/Diagnostics.h"
 #include "refhost/Resources.h"
+#include "tests/support/Printers.h"
 
 #include <map>
 #include <memory>
