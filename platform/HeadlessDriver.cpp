@@ -145,9 +145,9 @@ bool CHeadlessSession::Drag(UINT list, UINT target)
 bool CHeadlessSession::Menu(UINT list, UINT command)
 {
     auto& control = As<CListCtrl>(list, "a list");
-    m_driver.SetMenuChoice(command);
+    m_menus.SetChoice(command);
     const bool shown = CUserInput::ContextMenu(control);
-    m_driver.SetMenuChoice(0);
+    m_menus.SetChoice(0);
     return shown;
 }
 
@@ -205,7 +205,7 @@ CString CHeadlessSession::Text(UINT id) const
 
 INT_PTR CHeadlessDriver::RunModal(CDialog& dialog)
 {
-    CHeadlessSession session(dialog, *this);
+    CHeadlessSession session(dialog, m_menus);
     if (m_script)
         m_script(session);
     m_lastLeftOpen = dialog.IsRunning();
@@ -216,6 +216,5 @@ INT_PTR CHeadlessDriver::RunModal(CDialog& dialog)
 
 UINT CHeadlessDriver::TrackPopupMenu(CWnd&, const CMenu& menu)
 {
-    m_lastMenu = menu;
-    return menu.IsEnabled(m_menuChoice) ? m_menuChoice : 0;
+    return m_menus.Choose(menu);
 }

@@ -11,7 +11,25 @@
 #include <string>
 #include <vector>
 
-class CHeadlessDriver;
+// The answer a driver gives a pop-up menu while a script acts: the command
+// the script asked for, if the menu has it enabled. Any driver that runs
+// scripted actions owns one.
+class CMenuScript {
+public:
+    void SetChoice(UINT id) { m_choice = id; }
+    bool HasChoice() const { return m_choice != 0; }
+    // Records the menu; returns the scripted command when it is enabled.
+    UINT Choose(const CMenu& menu)
+    {
+        m_lastMenu = menu;
+        return menu.IsEnabled(m_choice) ? m_choice : 0;
+    }
+    const CMenu& LastMenu() const { return m_lastMenu; }
+
+private:
+    UINT m_choice = 0;
+    CMenu m_lastMenu;
+};
 
 // An action the dialog cannot take as asked: an unknown control, item or
 // index, a control of the wrong kind.
@@ -25,7 +43,7 @@ public:
 // Actions on controls the user cannot reach have no effect and return false.
 class CHeadlessSession {
 public:
-    CHeadlessSession(CDialog& dialog, CHeadlessDriver& driver) : m_dialog(dialog), m_driver(driver) {}
+    CHeadlessSession(CDialog& dialog, CMenuScript& menus) : m_dialog(dialog), m_menus(menus) {}
 
     CDialog& Dialog() const { return m_dialog; }
     bool IsOpen() const { return m_dialog.IsRunning(); }
@@ -61,7 +79,7 @@ private:
     T& As(UINT id, const char* kind) const;
 
     CDialog& m_dialog;
-    CHeadlessDriver& m_driver;
+    CMenuScript& m_menus;
     HCURSOR m_lastDragCursor = CursorShape::Arrow;
 };
 
@@ -77,14 +95,11 @@ public:
     INT_PTR RunModal(CDialog& dialog) override;
     UINT TrackPopupMenu(CWnd& owner, const CMenu& menu) override;
 
-    // The command the next pop-up menu answers with (0 picks nothing).
-    void SetMenuChoice(UINT id) { m_menuChoice = id; }
     // Items and enable states of the last menu shown.
-    const CMenu& LastMenu() const { return m_lastMenu; }
+    const CMenu& LastMenu() const { return m_menus.LastMenu(); }
 
 private:
     Script m_script;
     bool m_lastLeftOpen = false;
-    UINT m_menuChoice = 0;
-    CMenu m_lastMenu;
+    CMenuScript m_menus;
 };
