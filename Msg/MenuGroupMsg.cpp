@@ -1,5 +1,7 @@
 #include "Msg/MenuGroupMsg.h"
 
+#include "Msg/LaunchDialog.h"
+
 #include "host/IGlobal.h"
 #include "host/IGrHitNodeInfo.h"
 #include "host/KalAssertDlg.h"
@@ -52,6 +54,22 @@ void CMenuGroupMsg::Run(UINT id, IGrHitNodeInfo* node)
         row->launch(GetGlobal(), id, GetParent(), *row, node);
     else
         ReportUnavailable(GetGlobal());
+}
+
+CString JoinMenuCaption(const CStringArray& chain)
+{
+    CString caption;
+    for (CString part : chain) {
+        part.Remove(u'&');
+        part.TrimRight(u'.');
+        part.Trim();
+        if (part.IsEmpty())
+            continue;
+        if (!caption.IsEmpty())
+            caption += u" > ";
+        caption += part;
+    }
+    return caption;
 }
 
 void ReportUnavailable(IGlobal* global)

@@ -101,7 +101,9 @@ bool CDialog::CreateControls()
     }
     m_owned.clear();
     m_children.clear();
-    m_strText = m_template->caption;
+    // A caption given before creation (a page or menu caption) stays.
+    if (m_strText.IsEmpty())
+        m_strText = m_template->caption;
     m_bCreated = true;
     m_bEnabled = true;
     m_bVisible = true;

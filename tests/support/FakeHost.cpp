@@ -21,8 +21,9 @@ CGUIBaseObj* FakeHost::GetSettings(UINT id)
     return it == store.end() ? nullptr : it->second.get();
 }
 
-void FakeHost::RunCommand(UINT id, const CString&)
+void FakeHost::RunCommand(UINT id, const CString& caption)
 {
+    runCaptions.push_back(caption);
     std::vector<std::u16string> lines;
     if (CGUIBaseObj* settings = GetSettings(id)) {
         CLIST<CCmdInfo> list;

@@ -82,6 +82,7 @@ public:
     std::map<UINT, std::unique_ptr<CGUIBaseObj>> store;
     std::vector<UINT> messages;
     std::vector<std::pair<UINT, std::vector<std::u16string>>> runs; // command id, lines
+    std::vector<CString> runCaptions;
     int dialogsOpened = 0;
 
     // IGlobal

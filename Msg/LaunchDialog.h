@@ -1,0 +1,59 @@
+// The launch routine of a menu command: one template that every row of a
+// handler's table instantiates with its dialog and settings classes.
+//
+//  1. the host may refuse the command now (message 100190495);
+//  2-4. the dialog is made; the settings object the host keeps under the
+//     command id is taken, or created and registered there;
+//  5-7. the settings are wired to the dialog's pages, captions are set, and
+//     outside replay the menu path becomes the caption;
+//  8-9. defaults are reassigned, source lists filled, the dialog id set, the
+//     host told that a dialog opens;
+//  10-11. the dialog runs; on OK the host runs the command id, whose lines it
+//     collects from the registered settings.
+#pragma once
+
+#include "Msg/MenuGroupMsg.h"
+#include "framework/GUIBaseDlg.h"
+#include "host/IGlobal.h"
+#include "host/KVMenuBar.h"
+
+// The menu path as one caption: "Analysis > Analysis of Variance > Estimate
+// Model", mnemonics and trailing dots dropped.
+CString JoinMenuCaption(const CStringArray& chain);
+
+template <class TDlg, class TData>
+void LaunchDialog(IGlobal* global, UINT id, void*, const MenuCommandRow& row, IGrHitNodeInfo* node)
+{
+    if (!global)
+        return;
+    if (!global->IsCommandAllowed(id)) {
+        global->ReportMessage(kMsgCommandRefused, 0);
+        return;
+    }
+    TDlg dialog(nullptr);
+
+    IMainFrame* frame = global->GetMainFrame();
+    auto* settings = dynamic_cast<TData*>(global->GetSettings(id));
+    if (!settings) {
+        settings = new TData;
+        global->RegisterSettings(id, settings); // the store owns it from here on
+    }
+    settings->SetParent(nullptr);
+
+    dialog.SetData(settings);
+    dialog.SetCaptionIDs(row.captions);
+    CStringArray chain;
+    if (!global->IsReplayMode() && frame && frame->GetMenuBar() && frame->GetMenuBar()->GetIDTextChain(id, chain) &&
+        !chain.IsEmpty())
+        dialog.SetMenuCaption(JoinMenuCaption(chain));
+    if (node)
+        static_cast<CGUIBaseObj*>(settings)->SetAll(node); // the base form, hidden by the settings class
+
+    settings->ReassignDefaultValue();
+    settings->FillListSource();
+    settings->SetstrDialog(id);
+    global->OnDialogOpening(0);
+
+    if (dialog.DoModal() == IDOK && dialog.IsRunFlagSet())
+        global->RunCommand(id, global->IsReplayMode() ? dialog.GetDlgCaption() : CString());
+}
