@@ -1,13 +1,17 @@
-// The reference host's data sheets: variables with a name, a type and
-// their values, and the categorical marks the ANOVA factor list follows.
+// The reference host's data sheets: variables with a name and a type, the
+// number of cases, and the categorical marks the ANOVA factor list follows.
+// Cell values are read to tell numeric from string variables and then
+// dropped: the module asks for nothing else.
 #pragma once
 
 #include "host/IData.h"
 
 #include <filesystem>
+#include <istream>
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kalhost {
@@ -15,7 +19,6 @@ namespace kalhost {
 struct Variable {
     CString name;
     NmsEnum::VARIABLETYPE type = NmsEnum::VT_NUMERIC;
-    std::vector<std::string> values; // as read, UTF-8
 };
 
 class DataError : public std::runtime_error {
@@ -26,15 +29,20 @@ public:
 class DataSheet final : public IDataSheet {
 public:
     DataSheet() = default;
-    explicit DataSheet(std::vector<Variable> variables, std::string source = {});
+    DataSheet(std::vector<Variable> variables, std::size_t cases, std::string source);
 
     // A CSV file with a header row of variable names. A column is a string
     // variable when its name ends in '$' or any value is not a number.
     // Throws DataError naming the file, line and column; nothing is kept of
     // a file that fails.
     static DataSheet LoadCsv(const std::filesystem::path& file);
-    // The built-in sample: a designed experiment that needs no file.
+    static DataSheet LoadCsv(std::istream& in, const std::string& name);
+    // The built-in sample, a designed experiment that needs no file: three
+    // doses (A) crossed with three soils (B, a string factor), 30 plots
+    // each; responses Y, Y2 and the harvests T1-T3, covariates X and X2,
+    // a weight W. A is marked categorical.
     static DataSheet Sample();
+    static std::string SampleCsv();
 
     // Marks the named variables categorical (string variables always are).
     // Throws DataError for a name the sheet does not have.
@@ -47,17 +55,18 @@ public:
     std::vector<int> GetCategoricalIndexes() override;
 
     const std::vector<Variable>& Variables() const { return m_variables; }
-    std::size_t CaseCount() const { return m_variables.empty() ? 0 : m_variables.front().values.size(); }
+    std::size_t CaseCount() const { return m_cases; }
     const std::string& Source() const { return m_source; }
 
 private:
     std::vector<Variable> m_variables;
     std::set<int> m_categorical;
+    std::size_t m_cases = 0;
     std::string m_source;
 };
 
 // Whether `text` reads as a number (blank cells are missing values and
 // count as numbers).
-bool IsNumberText(const std::string& text);
+bool IsNumberText(std::string_view text);
 
 } // namespace kalhost

@@ -45,19 +45,6 @@ private:
     std::wstring m_name = L"KalData";
 };
 
-SettingsStore::~SettingsStore() = default;
-
-CGUIBaseObj* SettingsStore::Get(UINT id) const
-{
-    const auto it = m_objects.find(id);
-    return it == m_objects.end() ? nullptr : it->second.get();
-}
-
-void SettingsStore::Register(UINT id, CGUIBaseObj* settings)
-{
-    m_objects[id].reset(settings);
-}
-
 HostGlobal::HostGlobal(ResourceTable& resources, std::ostream& out, std::ostream& err)
     : m_resources(resources), m_out(out), m_err(err), m_kernel(std::make_unique<Kernel>(*this)),
       m_data(std::make_unique<Data>(*this))

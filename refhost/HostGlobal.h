@@ -9,6 +9,7 @@
 #include "host/KVMenuBar.h"
 #include "refhost/DataSheet.h"
 #include "refhost/Resources.h"
+#include "refhost/SettingsStore.h"
 
 #include <map>
 #include <memory>
@@ -27,24 +28,6 @@ struct HostPreferences {
     bool restrictedMode = false;
     int editLevel = 1;
     int outputLevel = 2;
-};
-
-// The settings store: one settings object per command id, owned here.
-class SettingsStore {
-public:
-    SettingsStore() = default;
-    ~SettingsStore();
-    SettingsStore(const SettingsStore&) = delete;
-    SettingsStore& operator=(const SettingsStore&) = delete;
-
-    CGUIBaseObj* Get(UINT id) const;
-    void Register(UINT id, CGUIBaseObj* settings);
-    const std::map<UINT, std::unique_ptr<CGUIBaseObj>>& Objects() const { return m_objects; }
-    // Settings objects' code lives in the module: clear before unloading it.
-    void Clear() { m_objects.clear(); }
-
-private:
-    std::map<UINT, std::unique_ptr<CGUIBaseObj>> m_objects;
 };
 
 class HostGlobal final : public IGlobal, public IModuleRegistry, public IMainFrame, public CKVMenuBar {

@@ -1,13 +1,26 @@
 #include "refhost/Kalhost.h"
 
+#include "host/IKVMsg.h"
+#include "platform/HeadlessDriver.h"
+#include "refhost/ActionScript.h"
 #include "refhost/HostGlobal.h"
 #include "refhost/ModuleLoader.h"
 #include "refhost/Resources.h"
 
+#ifdef KAL_WITH_QT
+#include "refhost/qt/QtView.h"
+#endif
+
 #include <CLI/CLI.hpp>
 
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
 #include <iomanip>
 #include <iostream>
+#include <optional>
+#include <sstream>
 
 namespace kalhost {
 
@@ -23,18 +36,305 @@ struct Options {
     std::string moduleState;
     std::string decimal;
     std::string modulePath;
+
+    unsigned int commandId = 0;
+    std::string actionsFile;
+    bool gui = false;
+    std::string screenshotFile;
+    std::string playFile;
+    std::string dumpFile;
 };
 
-int ListCommands(LoadedModule& module)
+// Something the user asked for that cannot be done: message, status 2.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+std::string ReadText(const std::string& file)
+{
+    if (file == "-") {
+        std::ostringstream text;
+        text << std::cin.rdbuf();
+        return text.str();
+    }
+    std::ifstream in(file, std::ios::binary);
+    if (!in)
+        throw UsageError(file + ": cannot be read: " + std::strerror(errno));
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+std::string ScriptName(const std::string& file)
+{
+    return file == "-" ? "standard input" : file;
+}
+
+std::vector<ScriptLine> ParseScriptFile(const std::string& file)
+{
+    try {
+        return ParseScript(ReadText(file));
+    } catch (const ScriptError& e) {
+        throw UsageError(ScriptName(file) + " " + e.what());
+    }
+}
+
+// The handler class the menu bar gives command `id` to, or empty.
+std::string HandlerOf(const std::vector<MenuNode>& nodes, UINT id)
+{
+    for (const auto& node : nodes) {
+        if (node.id == id && id != 0)
+            return node.handler;
+        if (auto handler = HandlerOf(node.items, id); !handler.empty())
+            return handler;
+    }
+    return {};
+}
+
+// One kalhost run: the host, its data, the module and its store.
+class Session {
+public:
+    explicit Session(const Options& options)
+        : m_options(options), m_resources(ResourceTable::LoadEmbedded()), m_host(*m_resources, std::cout, std::cerr)
+    {
+        KalUseRes::SetGlobalResourceHandle(m_resources.get());
+        ApplyPreferences();
+        OpenData();
+        m_module.emplace(options.modulePath.empty() ? DefaultModulePath() : std::filesystem::path(options.modulePath),
+                         &m_host);
+        LoadStore();
+    }
+
+    ~Session()
+    {
+        // Settings objects are the module's: gone before the module is.
+        m_host.Store().Clear();
+        m_module.reset();
+        KalUseRes::SetGlobalResourceHandle(nullptr);
+    }
+
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    // Saves the store, if one was given; false after reporting a failure.
+    bool SaveStore()
+    {
+        if (m_options.storeFile.empty())
+            return true;
+        try {
+            m_host.Store().Save(m_options.storeFile);
+            return true;
+        } catch (const std::exception& e) {
+            std::cerr << "kalhost: the settings store could not be saved: " << e.what() << std::endl;
+            return false;
+        }
+    }
+
+    HostGlobal& Host() { return m_host; }
+    LoadedModule& Module() { return *m_module; }
+
+    // Sends `id` to the handler of its menu group, as the host does.
+    void SendMenuCommand(UINT id)
+    {
+        const std::string handlerName = HandlerOf(m_resources->GetMenuBar(), id);
+        IKVMsg* handler = handlerName.empty() ? nullptr : m_module->Handler(handlerName);
+        if (!handler)
+            throw UsageError("no menu command " + std::to_string(id));
+        handler->OnKVCommand(id);
+    }
+
+private:
+    void ApplyPreferences()
+    {
+        HostPreferences& p = m_host.Preferences();
+        p.writeEveryOption = m_options.writeAll;
+        p.matrixData = m_options.matrix;
+        if (!m_options.decimal.empty()) {
+            const CString separator = CString::FromUtf8(m_options.decimal);
+            if (separator.GetLength() != 1 || ContainsControlCharacter(separator))
+                throw UsageError("--decimal takes one character, not \"" + m_options.decimal + "\"");
+            p.decimalSeparator = separator[0];
+        }
+        if (!m_options.moduleState.empty())
+            m_host.SetCurrentCommandModule(CString::FromUtf8(m_options.moduleState));
+    }
+
+    void OpenData()
+    {
+        if (m_options.noData) {
+            if (!m_options.dataFile.empty() || !m_options.categorical.empty())
+                throw UsageError("--no-data cannot go with --data or --categorical");
+            return;
+        }
+        auto sheet = std::make_unique<DataSheet>(m_options.dataFile.empty() ? DataSheet::Sample()
+                                                                            : DataSheet::LoadCsv(m_options.dataFile));
+        sheet->MarkCategorical(m_options.categorical);
+        m_host.SetDataSheet(std::move(sheet));
+    }
+
+    void LoadStore()
+    {
+        const std::filesystem::path file = m_options.storeFile;
+        if (file.empty() || !std::filesystem::exists(file))
+            return;
+        try {
+            m_host.Store().Load(file);
+        } catch (const StoreError& e) {
+            const auto aside = KeepAside(file);
+            std::cerr << "kalhost: the settings store cannot be read (" << e.what() << "); it is kept as "
+                      << aside.string() << " and the session starts with fresh settings" << std::endl;
+        }
+    }
+
+    const Options& m_options;
+    std::unique_ptr<ResourceTable> m_resources;
+    HostGlobal m_host;
+    std::optional<LoadedModule> m_module;
+};
+
+int ListCommands(Session& session)
 {
     // The trace line goes through the module's own wide stream.
     std::cout.flush();
-    module.Module().PrintModuleInfo();
+    session.Module().Module().PrintModuleInfo();
     std::cout << std::left << std::setw(6) << "id" << std::setw(28) << "handler" << std::setw(48) << "dialog"
               << std::setw(48) << "settings" << "status\n";
-    for (const auto& c : module.Commands())
+    for (const auto& c : session.Module().Commands())
         std::cout << std::left << std::setw(6) << c.id << std::setw(28) << c.handler << std::setw(48) << c.dialogClass
                   << std::setw(48) << c.settingsClass << (c.available ? "available" : "not available") << '\n';
+    return kExitDone;
+}
+
+// The status a finished script run ends with.
+int StatusOf(const ScriptRunner& runner, const std::string& script)
+{
+    switch (runner.GetOutcome()) {
+    case ScriptRunner::Outcome::BadLine:
+        std::cerr << "kalhost: " << ScriptName(script) << " " << runner.GetMessage() << std::endl;
+        return kExitUsage;
+    case ScriptRunner::Outcome::ExpectFailed:
+        std::cerr << "kalhost: " << ScriptName(script) << " " << runner.GetMessage() << std::endl;
+        return kExitExpectFailed;
+    case ScriptRunner::Outcome::Confirmed: return kExitDone;
+    default: return kExitDialogNotConfirmed;
+    }
+}
+
+int OpenHeadless(Session& session, const Options& options)
+{
+    CHeadlessDriver driver;
+    std::optional<ScriptRunner> runner;
+    if (!options.actionsFile.empty()) {
+        runner.emplace(ParseScriptFile(options.actionsFile), nullptr, false);
+        driver.SetScript([&runner](CHeadlessSession& s) { runner->RunDialog(s); });
+    }
+    CDialogDriver* previous = AfxSetDialogDriver(&driver);
+    const int before = session.Host().CommandsRun();
+    session.SendMenuCommand(options.commandId);
+    AfxSetDialogDriver(previous);
+    if (runner && runner->Failed())
+        return StatusOf(*runner, options.actionsFile);
+    return session.Host().CommandsRun() > before ? kExitDone : kExitDialogNotConfirmed;
+}
+
+int OpenInWindow(Session& session, const Options& options, int& argc, char** argv)
+{
+#ifdef KAL_WITH_QT
+    const bool noDisplay = !std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY");
+    qt::QtApplication application(argc, argv, !options.screenshotFile.empty() || noDisplay);
+    if (noDisplay && options.screenshotFile.empty())
+        throw UsageError("--gui needs a display (or --screenshot FILE.png to render without one)");
+    qt::QtDialogDriver driver;
+    std::optional<ScriptRunner> runner;
+    if (!options.actionsFile.empty()) {
+        runner.emplace(ParseScriptFile(options.actionsFile), nullptr, false);
+        driver.SetScript([&runner](CHeadlessSession& s) { runner->RunDialog(s); });
+    }
+    driver.SetScreenshotFile(options.screenshotFile);
+    CDialogDriver* previous = AfxSetDialogDriver(&driver);
+    const int before = session.Host().CommandsRun();
+    session.SendMenuCommand(options.commandId);
+    AfxSetDialogDriver(previous);
+    if (runner && runner->Failed())
+        return StatusOf(*runner, options.actionsFile);
+    return session.Host().CommandsRun() > before ? kExitDone : kExitDialogNotConfirmed;
+#else
+    (void)session, (void)options, (void)argc, (void)argv;
+    throw UsageError("this kalhost was built without the Qt view; --gui is not available");
+#endif
+}
+
+int Play(Session& session, const Options& options)
+{
+    CHeadlessDriver driver;
+    ScriptRunner runner(
+        ParseScriptFile(options.playFile), [&session](UINT id) { session.SendMenuCommand(id); }, true);
+    driver.SetScript([&runner](CHeadlessSession& s) { runner.RunDialog(s); });
+    CDialogDriver* previous = AfxSetDialogDriver(&driver);
+    try {
+        runner.RunAll();
+    } catch (...) {
+        AfxSetDialogDriver(previous);
+        throw;
+    }
+    AfxSetDialogDriver(previous);
+    if (runner.GetOutcome() == ScriptRunner::Outcome::NoDialog && session.Host().CommandsRun() == 0 &&
+        session.Host().LastMessage() == 0)
+        return kExitDone; // a script that opened nothing
+    return StatusOf(runner, options.playFile);
+}
+
+int PrintCommands(Session& session, UINT id)
+{
+    std::optional<MenuCommand> row;
+    for (const auto& c : session.Module().Commands())
+        if (c.id == id)
+            row = c;
+    if (!row)
+        throw UsageError("no menu command " + std::to_string(id));
+    if (!row->available) {
+        session.Host().ReportMessage(100190500, 0);
+        return kExitDialogNotConfirmed;
+    }
+    CGUIBaseObj* settings = session.Host().Store().Get(id);
+    std::unique_ptr<CObject> fresh;
+    if (!settings) {
+        // Nothing stored yet: the lines of the defaults.
+        const CRuntimeClass* runtimeClass = CRuntimeClass::FromName(row->settingsClass.c_str());
+        fresh.reset(runtimeClass ? runtimeClass->CreateObject() : nullptr);
+        settings = dynamic_cast<CGUIBaseObj*>(fresh.get());
+        if (!settings)
+            throw UsageError(row->settingsClass + " cannot be created");
+    }
+    CLIST<CCmdInfo> lines;
+    settings->GetCommandInfoList(lines);
+    for (const auto& line : lines)
+        session.Host().ExecuteLine(line.m_strCommand);
+    std::cout.flush();
+    return kExitDone;
+}
+
+int DumpStore(const std::string& file)
+{
+    const auto entries = ReadStoreFile(file);
+    std::cout << file << ": " << entries.size() << (entries.size() == 1 ? " entry" : " entries") << '\n';
+    for (const auto& entry : entries) {
+        std::cout << "command " << entry.id << ", " << entry.className << ", " << entry.record.size() << " bytes\n";
+        try {
+            auto settings = LoadEntry(entry);
+            if (!settings) {
+                std::cout << "  (this module has no class " << entry.className << ")\n";
+                continue;
+            }
+            CLIST<CCmdInfo> lines;
+            settings->GetCommandInfoList(lines);
+            for (const auto& line : lines)
+                std::cout << "  " << line.m_strCommand.ToUtf8() << '\n';
+        } catch (const StoreError& e) {
+            std::cout << "  (unreadable: " << e.what() << ")\n";
+        }
+    }
     return kExitDone;
 }
 
@@ -46,42 +346,69 @@ int Run(int argc, char** argv)
     // streams let narrow and wide output share standard output.
     std::ios::sync_with_stdio(false);
 
-    CLI::App app{"kalhost: the reference host of the statistics-dialogs module KalDlgStat2"};
-    app.require_subcommand(1);
+    CLI::App app{"kalhost: the reference host of the statistics-dialogs module KalDlgStat2.\n"
+                 "Without --data the built-in sample data sheet is open."};
+    app.require_subcommand(1, 1);
+    app.fallthrough();
     Options options;
-    app.add_option("--data", options.dataFile, "CSV data file to open instead of the built-in sample")
-        ->check(CLI::ExistingFile);
+    app.add_option("--data", options.dataFile, "CSV data file to open instead of the built-in sample");
     app.add_flag("--no-data", options.noData, "open no data sheet");
-    app.add_option("--categorical", options.categorical, "variables to mark categorical (A,B)")->delimiter(',');
+    app.add_option("--categorical", options.categorical, "variables the data sheet marks categorical (A,B)")
+        ->delimiter(',');
     app.add_flag("--matrix", options.matrix, "the open data is a matrix");
-    app.add_option("--store", options.storeFile, "settings store file, loaded at start and saved at exit");
+    app.add_option("--store", options.storeFile, "settings store: loaded at start when it exists, saved at exit");
     app.add_flag("--write-all", options.writeAll, "write every option, defaults included");
     app.add_option("--module-state", options.moduleState, "the current command module (ANOVA, QC, ...)");
-    app.add_option("--decimal", options.decimal, "decimal separator of numbers in commands");
-    app.add_option("--module", options.modulePath, "module library to load");
+    app.add_option("--decimal", options.decimal, "decimal separator of numbers in commands (one character)");
+    app.add_option("--module", options.modulePath, "the module library to load (default: the one beside kalhost)");
 
     auto* list = app.add_subcommand("list", "the menu commands: id, handler, dialog, settings, status");
+    auto* open = app.add_subcommand("open", "send menu command ID and run the dialog it opens");
+    open->add_option("ID", options.commandId, "menu command id")->required();
+    open->add_option("--actions", options.actionsFile, "action script for the dialog (FILE, or - for standard input)");
+    auto* gui = open->add_flag("--gui", options.gui, "show the dialog in a window (Qt)");
+    open->add_option("--screenshot", options.screenshotFile, "with --gui: render the dialog to FILE.png, no display needed")
+        ->needs(gui);
+    auto* play = app.add_subcommand("play", "several dialog sessions from one script (open ID, actions, ok)");
+    play->add_option("FILE", options.playFile, "the script, or - for standard input")->required();
+    auto* commands = app.add_subcommand("commands", "print the lines of the settings stored for ID, no dialog");
+    commands->add_option("ID", options.commandId, "menu command id")->required();
+    auto* dump = app.add_subcommand("store-dump", "show a settings store: its entries and the lines they write");
+    dump->add_option("FILE", options.dumpFile, "the settings store file")->required();
 
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {
-        const int status = app.exit(e);
-        return status == 0 ? kExitDone : kExitUsage;
+        return app.exit(e) == 0 ? kExitDone : kExitUsage;
     }
 
     try {
-        auto resources = ResourceTable::LoadEmbedded();
-        KalUseRes::SetGlobalResourceHandle(resources.get());
-        HostGlobal host(*resources, std::cout, std::cerr);
-        LoadedModule module(options.modulePath.empty() ? DefaultModulePath() : std::filesystem::path(options.modulePath), &host);
+        if (*dump) {
+            // A dump reads entries through the module's settings classes.
+            Options plain = options;
+            plain.storeFile.clear();
+            plain.noData = true;
+            plain.dataFile.clear();
+            plain.categorical.clear();
+            Session session(plain);
+            return DumpStore(options.dumpFile);
+        }
+        Session session(options);
         int status = kExitDone;
         if (*list)
-            status = ListCommands(module);
-        host.Store().Clear();
-        module.ReleaseModule();
-        KalUseRes::SetGlobalResourceHandle(nullptr);
+            status = ListCommands(session);
+        else if (*open)
+            status = options.gui ? OpenInWindow(session, options, argc, argv) : OpenHeadless(session, options);
+        else if (*play)
+            status = Play(session, options);
+        else if (*commands)
+            status = PrintCommands(session, options.commandId);
+        std::cout.flush();
+        if (!session.SaveStore() && status == kExitDone)
+            status = kExitUsage;
         return status;
     } catch (const std::exception& e) {
+        std::cout.flush();
         std::cerr << "kalhost: " << e.what() << std::endl;
         return kExitUsage;
     }

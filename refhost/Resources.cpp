@@ -109,6 +109,7 @@ DialogTemplate ParseDialog(const json& d, const std::string& where)
         control.cx = rect[2];
         control.cy = rect[3];
         control.style = ParseStyle(c.contains("style") ? c["style"] : json(), control.kind, at);
+        control.tip = c.contains("tip") ? Text(c["tip"], at) : CString();
         if (c.contains("columns"))
             for (const auto& column : c["columns"])
                 control.columns.push_back(Text(column, at));

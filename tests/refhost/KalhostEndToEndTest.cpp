@@ -1,0 +1,176 @@
+// kalhost as a user runs it: scripts and data files in, command lines,
+// messages and exit statuses out.
+#include "tests/support/Process.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+using kaltest::ProcessResult;
+using kaltest::RunProcess;
+using kaltest::TempDir;
+
+namespace {
+
+ProcessResult Kalhost(const std::vector<std::string>& args, const std::string& input = {})
+{
+    return RunProcess(KALHOST_PATH, args, input);
+}
+
+std::string Sample(const std::string& name)
+{
+    return std::string(KAL_SOURCE_DIR) + "/samples/" + name;
+}
+
+const char* const kExampleLines = "ANOVA\n"
+                                  "DEPEND Y\n"
+                                  "CATEGORY A B / REPLACE MISS\n"
+                                  "COVAR X\n"
+                                  "ESTIMATE / SS = TYPE3\n";
+
+} // namespace
+
+TEST(KalhostAnova, TheExampleThroughTheMenuCommand)
+{
+    const auto r = Kalhost({"play", Sample("anova.kal")});
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(r.out, kExampleLines);
+    EXPECT_EQ(r.err, "");
+
+    // The same from standard input with open --actions.
+    const auto piped = Kalhost({"open", "2008", "--actions", "-"},
+                               "select 1075 Y\nclick 1067\ncheck 1076 1\nselect 1075 X\nclick 1066\nok\n");
+    EXPECT_EQ(piped.status, 0) << piped.err;
+    EXPECT_EQ(piped.out, kExampleLines);
+}
+
+TEST(KalhostAnova, RepeatedMeasuresAndNoFactors)
+{
+    TempDir dir;
+    const auto csv = dir.Write("d.csv", "Y1,Y2,G$\n1,2,a\n3,4,b\n");
+    const auto r = Kalhost({"--data", csv, "open", "2008", "--actions", "-"},
+                           "select 1075 Y1 Y2\nclick 1067\nexpect items 1073 G$\nselect 1073 G$\nclick 1090\n"
+                           "page 1\ncheck 4193 1\nok\n");
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(r.out, "ANOVA\nDEPEND Y1 Y2/ REPEAT = 2\nCATEGORY / OFF\nCOVAR \nESTIMATE / SS = TYPE3\n");
+}
+
+TEST(KalhostAnova, ReopeningShowsTheLastChoicesInOnePlayAndAcrossRuns)
+{
+    const auto r = Kalhost({"play", Sample("anova-reopen.kal")});
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_NE(r.out.find("SAVE 'results 2026.kvd' / MODEL\n"), std::string::npos) << r.out;
+
+    TempDir dir;
+    const std::string store = dir.Path() + "/settings.store";
+    EXPECT_EQ(Kalhost({"--store", store, "play", Sample("anova.kal")}).status, 0);
+    const auto again = Kalhost({"--store", store, "open", "2008", "--actions", "-"},
+                               "expect items 1071 Y\nexpect items 1069 X\nexpect checked 1076 1\nok\n");
+    EXPECT_EQ(again.status, 0) << again.err;
+    EXPECT_EQ(again.out, kExampleLines);
+
+    const auto dump = Kalhost({"store-dump", store});
+    EXPECT_EQ(dump.status, 0);
+    EXPECT_NE(dump.out.find("command 2008, CAnovaTabData"), std::string::npos) << dump.out;
+    EXPECT_NE(dump.out.find("  DEPEND Y\n"), std::string::npos);
+    // The store keeps the choices; the options page counts once confirmed.
+    const auto lines = Kalhost({"--store", store, "commands", "2008"});
+    EXPECT_EQ(lines.out, "ANOVA\nDEPEND Y\nCATEGORY A B / REPLACE MISS\nCOVAR X\nESTIMATE /\n");
+}
+
+TEST(KalhostStore, AStoreCutShortIsKeptAsideAndTheSessionGoesOn)
+{
+    TempDir dir;
+    const std::string store = dir.Path() + "/s.store";
+    ASSERT_EQ(Kalhost({"--store", store, "play", Sample("anova.kal")}).status, 0);
+    const auto size = std::filesystem::file_size(store);
+    std::filesystem::resize_file(store, size - 5);
+
+    const auto r = Kalhost({"--store", store, "open", "2008", "--actions", "-"}, "expect items 1071\ncancel\n");
+    EXPECT_EQ(r.status, 1) << r.err; // fresh settings: no dependent; cancelled
+    EXPECT_NE(r.err.find("kept as " + store + ".unreadable"), std::string::npos) << r.err;
+    EXPECT_EQ(std::filesystem::file_size(store + ".unreadable"), size - 5);
+    EXPECT_TRUE(std::filesystem::exists(store)); // a new store was saved
+    EXPECT_EQ(Kalhost({"store-dump", store}).status, 0);
+}
+
+TEST(KalhostRouting, RefusedAndUnavailableCommandsOpenNothing)
+{
+    const auto refused = Kalhost({"--no-data", "open", "2008", "--actions", "-"}, "ok\n");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.out, "");
+    EXPECT_EQ(refused.err, "message 100190495: This command cannot be run now.\n");
+
+    // 2070 is in the regression menu; its analysis is not in this module.
+    const auto routed = Kalhost({"open", "2070"});
+    EXPECT_EQ(routed.status, 1);
+    EXPECT_EQ(routed.err, "message 100190500: This analysis is not available in this version of the module.\n");
+
+    const auto unknown = Kalhost({"open", "2044"});
+    EXPECT_EQ(unknown.status, 2);
+    EXPECT_EQ(unknown.err, "kalhost: no menu command 2044\n");
+
+    const auto list = Kalhost({"list"});
+    EXPECT_EQ(list.status, 0);
+    EXPECT_EQ(list.out.rfind("DlgStat2 Module\n", 0), 0u) << list.out;
+    EXPECT_NE(list.out.find("2008  CAnalysisofVarianceMsg"), std::string::npos);
+    EXPECT_NE(list.out.find("2070  CRegressionMsg"), std::string::npos);
+}
+
+TEST(KalhostScripts, BadLinesFailedChecksAndDialogsLeftOpen)
+{
+    const auto bad = Kalhost({"play", "-"}, "open 2008\nselect 1075 Y\nclik 1067\nok\n");
+    EXPECT_EQ(bad.status, 2);
+    EXPECT_EQ(bad.out, ""); // nothing ran
+    EXPECT_EQ(bad.err, "kalhost: standard input line 3: unknown action \"clik\"\n");
+
+    const auto missing = Kalhost({"play", "-"}, "open 2008\nselect 1075 Nope\nok\n");
+    EXPECT_EQ(missing.status, 2);
+    EXPECT_EQ(missing.err, "kalhost: standard input line 2: list 1075 has no item \"Nope\"\n");
+
+    const auto expect = Kalhost({"play", "-"}, "open 2008\nselect 1075 Y\nclick 1067\nexpect items 1071 X\nok\n");
+    EXPECT_EQ(expect.status, 3);
+    EXPECT_EQ(expect.err, "kalhost: standard input line 4: expected X, found Y\n");
+
+    const auto open = Kalhost({"play", "-"}, "open 2008\nselect 1075 Y\n");
+    EXPECT_EQ(open.status, 1);
+    const auto cancelled = Kalhost({"open", "2008", "--actions", "-"}, "cancel\n");
+    EXPECT_EQ(cancelled.status, 1);
+    const auto nested = Kalhost({"open", "2008", "--actions", "-"}, "open 2008\n");
+    EXPECT_EQ(nested.status, 2);
+    EXPECT_EQ(Kalhost({"open"}).status, 2);
+    EXPECT_EQ(Kalhost({"--decimal", "ab", "list"}).status, 2);
+}
+
+TEST(KalhostScripts, AValidationFailureKeepsTheDialogOpen)
+{
+    const auto r = Kalhost({"play", "-"}, "open 2008\nselect 1075 Y Y2\nclick 1067\npage 1\ncheck 4193 1\n"
+                                          "cell 4192 1 2 3\nok\ncell 4192 1 2 2\nok\n");
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(r.err, "message 2007: With one repeated-measures factor its number of levels must equal the number "
+                     "of dependent variables.\n");
+    EXPECT_NE(r.out.find("DEPEND Y Y2/ REPEAT = 2\n"), std::string::npos);
+}
+
+TEST(KalhostData, BadDataFilesAreRefusedWithFileLineAndColumn)
+{
+    TempDir dir;
+    const auto dup = dir.Write("dup.csv", "a,b,a\n1,2,3\n");
+    const auto ragged = dir.Write("ragged.csv", "a,b\n1,2\n3\n");
+    const std::pair<std::vector<std::string>, std::string> cases[] = {
+        {{"--data", dup, "list"}, dup + " line 1, column 3: variable name \"a\" is already used in column 1"},
+        {{"--data", ragged, "list"}, ragged + " line 3, column 2: 1 values where the header names 2 variables"},
+        {{"--data", dir.Path() + "/none.csv", "list"}, "none.csv: cannot be read"},
+        {{"--categorical", "Q", "list"}, "--categorical: the data sheet has no variable named \"Q\""},
+    };
+    for (const auto& [args, message] : cases) {
+        const auto r = Kalhost(args);
+        EXPECT_EQ(r.status, 2);
+        EXPECT_NE(r.err.find(message), std::string::npos) << r.err;
+        EXPECT_EQ(r.out, "");
+    }
+    const auto plants = Kalhost({"--data", Sample("plants.csv"), "--categorical", "dose", "play", Sample("plants.kal")});
+    EXPECT_EQ(plants.status, 0) << plants.err;
+    EXPECT_NE(plants.out.find("CATEGORY dose soil$ / REPLACE\n"), std::string::npos);
+}
