@@ -10,7 +10,10 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs)
     for (const auto& run : runs) {
         if (run.run_type != Run::RT_Iteration || run.error_occurred)
             continue;
-        const std::string name = run.benchmark_name();
+        // Compare by the registered name: drop a "/iterations:N" suffix.
+        std::string name = run.benchmark_name();
+        if (const auto at = name.find("/iterations:"); at != std::string::npos)
+            name.erase(at);
         m_seconds[name] = run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
         // The label lists "baseline=<name>" entries separated by ';'.
         const std::string& label = run.report_label;

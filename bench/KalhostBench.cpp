@@ -1,0 +1,89 @@
+// kalhost as a whole process.
+//  - start-up: `kalhost list` (load the library, build the module, list,
+//    release) against `true`, both spawned in the same run;
+//  - a CSV of 1,000 cases and 10,000 or 100,000 variables: load the sheet,
+//    open 2008, move 1,000 variables, confirm. Linear work gives a ratio
+//    near 10 between the two.
+#include "bench/BenchRatio.h"
+#include "tests/support/Process.h"
+
+#include <cstdio>
+#include <fstream>
+#include <memory>
+#include <string>
+
+namespace {
+
+constexpr int kCases = 1000;
+constexpr int kMoved = 1000;
+
+kaltest::TempDir& Scratch()
+{
+    static kaltest::TempDir dir;
+    return dir;
+}
+
+// Writes the CSV and the script for `variables` once per run.
+std::pair<std::string, std::string> Inputs(int variables)
+{
+    const std::string csv = Scratch().Path() + "/wide-" + std::to_string(variables) + ".csv";
+    const std::string script = Scratch().Path() + "/move-" + std::to_string(variables) + ".kal";
+    if (!std::ifstream(csv)) {
+        std::ofstream out(csv, std::ios::binary);
+        std::string line;
+        for (int v = 0; v < variables; ++v)
+            line += (v ? ",V" : "V") + std::to_string(v);
+        out << line << '\n';
+        // One digit per cell keeps the file as small as such a sheet can be.
+        line.clear();
+        for (int v = 0; v < variables; ++v) {
+            line += static_cast<char>('0' + v % 10);
+            line += v + 1 < variables ? ',' : '\n';
+        }
+        for (int c = 0; c < kCases; ++c)
+            out << line;
+        std::ofstream s(script);
+        s << "select 1075";
+        for (int i = 0; i < kMoved; ++i)
+            s << " V" << i * (variables / kMoved);
+        s << "\nclick 1066\nok\n";
+    }
+    return {csv, script};
+}
+
+void Spawn(benchmark::State& state, const std::string& program, const std::vector<std::string>& args,
+           const std::string& label)
+{
+    for (auto _ : state) {
+        const auto result = kaltest::RunProcess(program, args);
+        if (result.status != 0)
+            state.SkipWithError(("exit status " + std::to_string(result.status) + ": " + result.err).c_str());
+    }
+    state.SetLabel(label);
+}
+
+void WideSheet(benchmark::State& state, int variables, const std::string& label)
+{
+    const auto [csv, script] = Inputs(variables);
+    Spawn(state, KALHOST_PATH, {"--data", csv, "open", "2008", "--actions", script}, label);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    benchmark::RegisterBenchmark("spawn_true", Spawn, std::string("/bin/true"), std::vector<std::string>{},
+                                 std::string())
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("kalhost_list", Spawn, std::string(KALHOST_PATH), std::vector<std::string>{"list"},
+                                 std::string("baseline=spawn_true"))
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("kalhost_wide_csv/10000", WideSheet, 10'000, std::string())
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(5);
+    benchmark::RegisterBenchmark("kalhost_wide_csv/100000", WideSheet, 100'000,
+                                 std::string("baseline=kalhost_wide_csv/10000"))
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(2);
+    return kalbench::RunBenchmarks(argc, argv);
+}
