@@ -47,7 +47,7 @@ void LaunchDialog(IGlobal* global, UINT id, void*, const MenuCommandRow& row, IG
         !chain.IsEmpty())
         dialog.SetMenuCaption(JoinMenuCaption(chain));
     if (node)
-        static_cast<CGUIBaseObj*>(settings)->SetAll(node); // the base form, hidden by the settings class
+        settings->SetAll(node);
 
     settings->ReassignDefaultValue();
     settings->FillListSource();

@@ -25,6 +25,8 @@ public:
     static CGUIData<unsigned int> GetDefaultRandomSeedEdit() { return CGUIData<unsigned int>(0u); }
 
     int GetAll(int& method, CGUIData<int>& samples, CGUIData<int>& sampleSize, CGUIData<unsigned int>& seed) const;
+    // The settings-from-output-node form stays visible beside this one.
+    using CGUIBaseObj::SetAll;
     int SetAll(int method, const CGUIData<int>& samples, const CGUIData<int>& sampleSize,
                const CGUIData<unsigned int>& seed);
 

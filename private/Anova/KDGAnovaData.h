@@ -33,6 +33,8 @@ public:
                CGUIArray<CGUIDataVariable>& factor, CGUIArray<CGUIDataVariable>& covariate, int& missingValCheck,
                int& postHocTestCheck, int& saveFileCheck, int& postHocTestCombo, int& saveFileCombo,
                CString& saveFileEdit) const;
+    // The settings-from-output-node form stays visible beside this one.
+    using CGUIBaseObj::SetAll;
     int SetAll(const CGUIArray<CGUIDataVariable>& source, const CGUIArray<CGUIDataVariable>& dependent,
                const CGUIArray<CGUIDataVariable>& factor, const CGUIArray<CGUIDataVariable>& covariate,
                int missingValCheck, int postHocTestCheck, int saveFileCheck, int postHocTestCombo, int saveFileCombo,

@@ -22,6 +22,8 @@ public:
     static int GetDefaultSsTypeIRadio() { return 2; }
 
     int GetAll(int& ks, int& ad, int& sw, int& levene, int& ssRadio) const;
+    // The settings-from-output-node form stays visible beside this one.
+    using CGUIBaseObj::SetAll;
     int SetAll(int ks, int ad, int sw, int levene, int ssRadio);
     int SetAllCheckState(int ks, int ad, int sw, int levene, int ss);
 

@@ -29,6 +29,8 @@ public:
 
     int GetAll(CAnovaData& anova, CRepeatMeasuresData& repeat, CAnovaOptionsData& options,
                CBootStrapData& bootstrap) const;
+    // The settings-from-output-node form stays visible beside this one.
+    using CGUIBaseObj::SetAll;
     int SetAll(const CAnovaData& anova, const CRepeatMeasuresData& repeat, const CAnovaOptionsData& options,
                const CBootStrapData& bootstrap);
 

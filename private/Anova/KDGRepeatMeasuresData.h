@@ -19,6 +19,8 @@ public:
     static void GetDefaultMetric(CGUIArray<CString>& metric);
 
     int GetAll(int& onOff, CGUIArray<CString>& names, CGUIArray<int>& levels, CGUIArray<CString>& metric) const;
+    // The settings-from-output-node form stays visible beside this one.
+    using CGUIBaseObj::SetAll;
     int SetAll(int onOff, const CGUIArray<CString>& names, const CGUIArray<int>& levels,
                const CGUIArray<CString>& metric);
 
