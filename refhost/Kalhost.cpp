@@ -7,11 +7,11 @@
 #include "refhost/ModuleLoader.h"
 #include "refhost/Resources.h"
 
-#ifdef KAL_WITH_QT
-#include "refhost/qt/QtView.h"
-#endif
+#include "refhost/QtViewPlugin.h"
 
 #include <CLI/CLI.hpp>
+
+#include <dlfcn.h>
 
 #include <cerrno>
 #include <cstdlib>
@@ -238,31 +238,40 @@ int OpenHeadless(Session& session, const Options& options)
     return session.Host().CommandsRun() > before ? kExitDone : kExitDialogNotConfirmed;
 }
 
+// The Qt view plugin beside kalhost; it stays loaded until the process
+// ends, as Qt expects.
+KalCreateQtViewFn LoadQtView()
+{
+    const auto plugin = DefaultModulePath().parent_path() / "libkalqtview.so";
+    void* library = dlopen(plugin.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (!library)
+        throw UsageError(std::string("--gui needs the Qt view, which cannot be loaded: ") + dlerror());
+    auto create = reinterpret_cast<KalCreateQtViewFn>(dlsym(library, "KalCreateQtView"));
+    if (!create)
+        throw UsageError(plugin.string() + " is not the Qt view");
+    return create;
+}
+
 int OpenInWindow(Session& session, const Options& options, int& argc, char** argv)
 {
-#ifdef KAL_WITH_QT
     const bool noDisplay = !std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY");
-    qt::QtApplication application(argc, argv, !options.screenshotFile.empty() || noDisplay);
     if (noDisplay && options.screenshotFile.empty())
         throw UsageError("--gui needs a display (or --screenshot FILE.png to render without one)");
-    qt::QtDialogDriver driver;
+    const KalCreateQtViewFn create = LoadQtView();
+    std::unique_ptr<IQtView> view(create(&argc, argv, !options.screenshotFile.empty() || noDisplay));
     std::optional<ScriptRunner> runner;
     if (!options.actionsFile.empty()) {
         runner.emplace(ParseScriptFile(options.actionsFile), nullptr, false);
-        driver.SetScript([&runner](CHeadlessSession& s) { runner->RunDialog(s); });
+        view->SetScript([&runner](CHeadlessSession& s) { runner->RunDialog(s); });
     }
-    driver.SetScreenshotFile(options.screenshotFile);
-    CDialogDriver* previous = AfxSetDialogDriver(&driver);
+    view->SetScreenshotFile(options.screenshotFile);
+    CDialogDriver* previous = AfxSetDialogDriver(&view->Driver());
     const int before = session.Host().CommandsRun();
     session.SendMenuCommand(options.commandId);
     AfxSetDialogDriver(previous);
     if (runner && runner->Failed())
         return StatusOf(*runner, options.actionsFile);
     return session.Host().CommandsRun() > before ? kExitDone : kExitDialogNotConfirmed;
-#else
-    (void)session, (void)options, (void)argc, (void)argv;
-    throw UsageError("this kalhost was built without the Qt view; --gui is not available");
-#endif
 }
 
 int Play(Session& session, const Options& options)

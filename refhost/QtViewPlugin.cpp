@@ -1,0 +1,25 @@
+#include "refhost/QtViewPlugin.h"
+
+#include "refhost/qt/QtView.h"
+
+namespace {
+
+class QtView final : public kalhost::IQtView {
+public:
+    QtView(int& argc, char** argv, bool offscreen) : m_application(argc, argv, offscreen) {}
+
+    CDialogDriver& Driver() override { return m_driver; }
+    void SetScript(std::function<void(CHeadlessSession&)> script) override { m_driver.SetScript(std::move(script)); }
+    void SetScreenshotFile(const std::string& file) override { m_driver.SetScreenshotFile(file); }
+
+private:
+    kalhost::qt::QtApplication m_application;
+    kalhost::qt::QtDialogDriver m_driver;
+};
+
+} // namespace
+
+extern "C" kalhost::IQtView* KalCreateQtView(int* argc, char** argv, bool offscreen)
+{
+    return new QtView(*argc, argv, offscreen);
+}

@@ -1,0 +1,25 @@
+// The Qt view as a plugin: kalhost loads libkalqtview.so only when a dialog
+// is to be shown in a window, so headless runs never load Qt.
+#pragma once
+
+#include "platform/HeadlessDriver.h"
+
+#include <functional>
+#include <string>
+
+namespace kalhost {
+
+class IQtView {
+public:
+    virtual ~IQtView() = default;
+    virtual CDialogDriver& Driver() = 0;
+    // See qt::QtDialogDriver.
+    virtual void SetScript(std::function<void(CHeadlessSession&)> script) = 0;
+    virtual void SetScreenshotFile(const std::string& file) = 0;
+};
+
+} // namespace kalhost
+
+// The plugin's entry: a Qt application (offscreen when asked) and its driver.
+extern "C" kalhost::IQtView* KalCreateQtView(int* argc, char** argv, bool offscreen);
+using KalCreateQtViewFn = kalhost::IQtView* (*)(int*, char**, bool);
