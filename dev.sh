@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # One entry point for set-up, build, run and test on a Debian 12 machine.
-#   ./dev.sh run        install what is missing, build, run kalhost on the sample data
+#   ./dev.sh run        install what is missing, build, run an ANOVA session on the sample data
 #   ./dev.sh test       install what is missing, build both presets, run every test
 #   ./dev.sh fuzz [S]   build the libFuzzer targets with clang, run each S seconds (60)
 #   ./dev.sh bench      build and run the benchmarks
@@ -12,7 +12,7 @@ PACKAGES=(
     cmake ninja-build g++ clang libclang-rt-14-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     nlohmann-json3-dev libcli11-dev libcsv-dev
-    qt6-base-dev
+    qt6-base-dev fonts-dejavu-core
 )
 
 deps() {
@@ -37,7 +37,8 @@ case "${1:-}" in
 run)
     deps
     build default
-    build/default/bin/kalhost list
+    echo "== kalhost play samples/anova.kal"
+    build/default/bin/kalhost play samples/anova.kal
     ;;
 test)
     deps
