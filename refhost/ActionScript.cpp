@@ -279,6 +279,7 @@ void ScriptRunner::RunAll()
             return;
         }
         m_outcome = Outcome::NoDialog;
+        ++m_opens;
         m_open(Id(line.args[0], line.number));
     }
 }

@@ -60,6 +60,8 @@ public:
     // Why the run failed: "line N: ..." for a bad line or a failed check.
     const std::string& GetMessage() const { return m_message; }
     bool Failed() const { return m_outcome == Outcome::BadLine || m_outcome == Outcome::ExpectFailed; }
+    // How many `open` lines ran.
+    int GetOpenCount() const { return m_opens; }
 
 private:
     void Act(CHeadlessSession& session, const ScriptLine& line);
@@ -70,6 +72,7 @@ private:
     OpenCommand m_open;
     bool m_allowOpen;
     std::size_t m_next = 0;
+    int m_opens = 0;
     Outcome m_outcome = Outcome::NoDialog;
     std::string m_message;
 };

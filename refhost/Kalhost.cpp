@@ -288,9 +288,8 @@ int Play(Session& session, const Options& options)
         throw;
     }
     AfxSetDialogDriver(previous);
-    if (runner.GetOutcome() == ScriptRunner::Outcome::NoDialog && session.Host().CommandsRun() == 0 &&
-        session.Host().LastMessage() == 0)
-        return kExitDone; // a script that opened nothing
+    if (runner.GetOpenCount() == 0 && !runner.Failed())
+        return kExitDone; // a script without dialogs has nothing to confirm
     return StatusOf(runner, options.playFile);
 }
 
