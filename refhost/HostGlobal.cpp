@@ -87,7 +87,6 @@ bool HostGlobal::IsCommandAllowed(UINT)
 
 void HostGlobal::ReportMessage(UINT messageId, int)
 {
-    m_lastMessage = messageId;
     m_err << "message " << messageId << ": " << m_resources.GetMessageText(messageId).ToUtf8() << std::endl;
 }
 

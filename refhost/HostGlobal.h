@@ -44,9 +44,8 @@ public:
     ResourceTable& Resources() { return m_resources; }
     void SetCurrentCommandModule(const CString& name) { m_currentModule = name; }
 
-    // How many dialogs ran their commands, and the last message reported.
+    // How many dialogs ran their commands.
     int CommandsRun() const { return m_commandsRun; }
-    UINT LastMessage() const { return m_lastMessage; }
 
     // The command runner prints through the kernel; lines that the kernel
     // knows as module names become the current command module.
@@ -98,7 +97,6 @@ private:
     std::unique_ptr<Kernel> m_kernel;
     std::unique_ptr<Data> m_data;
     int m_commandsRun = 0;
-    UINT m_lastMessage = 0;
 };
 
 } // namespace kalhost
