@@ -8,7 +8,7 @@ BEGIN_MESSAGE_MAP(CBootStrapDlg, CGUIBaseDlg)
     ON_COMMAND_RANGE(CBootStrapDlg::IDC_METHOD_NONE, CBootStrapDlg::IDC_METHOD_SUBSAMPLING, &CBootStrapDlg::OnMethodRadio)
 END_MESSAGE_MAP()
 
-CBootStrapDlg::CBootStrapDlg(CWnd* parent) : CGUIBaseDlg(IDD, parent) {}
+CBootStrapDlg::CBootStrapDlg(CWnd* parent) : CGUIDataDlg(IDD, parent) {}
 
 int CBootStrapDlg::GetAll()
 {

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "framework/BootStrapData.h"
-#include "framework/GUIBaseDlg.h"
+#include "framework/GUIDataDlg.h"
 
-class CBootStrapDlg : public CGUIBaseDlg {
+class CBootStrapDlg : public CGUIDataDlg<CBootStrapData> {
     DECLARE_DYNAMIC(CBootStrapDlg)
 public:
     enum : UINT {
@@ -23,10 +23,6 @@ public:
 
     explicit CBootStrapDlg(CWnd* parent = nullptr);
 
-    void SetData(CBootStrapData* data) { m_pData = data; }
-    void SetData(CGUIBaseObj* data) override { m_pData = dynamic_cast<CBootStrapData*>(data); }
-    void GetData(CGUIBaseObj*& data) override { data = m_pData; }
-
     int GetAll() override;
     int SetAll() override;
     int GetAllDefault() override;
@@ -41,7 +37,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CBootStrapData* m_pData = nullptr;
     int m_nMethod = 0;
     CGUIData<int> m_Samples;
     CGUIData<int> m_SampleSize;

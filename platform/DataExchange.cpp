@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <string>
+#include <type_traits>
 
 namespace {
 
@@ -17,7 +18,30 @@ bool ParseWhole(CString text, T& value)
     const std::string s = text.Trim().ToUtf8();
     const char* first = s.data() + (s.size() > 1 && s[0] == '+' ? 1 : 0);
     const auto [end, error] = std::from_chars(first, s.data() + s.size(), value);
+    if constexpr (std::is_floating_point_v<T>)
+        if (!std::isfinite(value))
+            return false;
     return !s.empty() && error == std::errc() && end == s.data() + s.size();
+}
+
+// Shows the number, or reads it back (message `parseMessage` and Fail when
+// the text is not one).
+template <class T>
+void ExchangeNumber(CDataExchange* pDX, UINT id, T& value, UINT parseMessage)
+{
+    CWnd* control = pDX->PrepareCtrl(id);
+    if (!control)
+        return;
+    if (!pDX->m_bSaveAndValidate) {
+        control->SetWindowText(CString::FromNumber(value));
+        return;
+    }
+    T parsed{};
+    if (!ParseWhole(control->GetWindowText(), parsed)) {
+        AfxMessageBox(parseMessage);
+        pDX->Fail();
+    }
+    value = parsed;
 }
 
 } // namespace
@@ -97,34 +121,10 @@ void DDX_Text(CDataExchange* pDX, UINT id, CString& value)
 
 void DDX_Text(CDataExchange* pDX, UINT id, int& value)
 {
-    CWnd* control = pDX->PrepareCtrl(id);
-    if (!control)
-        return;
-    if (!pDX->m_bSaveAndValidate) {
-        control->SetWindowText(CString::FromNumber(value));
-        return;
-    }
-    int parsed = 0;
-    if (!ParseWhole(control->GetWindowText(), parsed)) {
-        AfxMessageBox(AFX_IDP_PARSE_INT);
-        pDX->Fail();
-    }
-    value = parsed;
+    ExchangeNumber(pDX, id, value, AFX_IDP_PARSE_INT);
 }
 
 void DDX_Text(CDataExchange* pDX, UINT id, double& value)
 {
-    CWnd* control = pDX->PrepareCtrl(id);
-    if (!control)
-        return;
-    if (!pDX->m_bSaveAndValidate) {
-        control->SetWindowText(CString::FromNumber(value));
-        return;
-    }
-    double parsed = 0;
-    if (!ParseWhole(control->GetWindowText(), parsed) || !std::isfinite(parsed)) {
-        AfxMessageBox(AFX_IDP_PARSE_REAL);
-        pDX->Fail();
-    }
-    value = parsed;
+    ExchangeNumber(pDX, id, value, AFX_IDP_PARSE_REAL);
 }

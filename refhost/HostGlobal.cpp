@@ -4,13 +4,18 @@
 
 namespace kalhost {
 
-// The host's command engine: prints each line it runs, UTF-8, exactly as
-// written.
-class HostGlobal::Kernel final : public IKernel {
-public:
-    explicit Kernel(HostGlobal& host) : m_host(host) {}
+namespace {
 
-    int ExecuteLine(const CString& line) override { return m_host.ExecuteLine(line); }
+// What every host module answers alike; the host owns its modules, so
+// Release does nothing.
+template <class Interface>
+class HostModule : public Interface {
+public:
+    HostModule(IGlobal& host, IBinReader& resources, const wchar_t* name)
+        : m_host(host), m_resources(resources), m_name(name)
+    {
+    }
+
     IGlobal* GetGlobal() override { return &m_host; }
     void Release() override {}
     void PrintModuleInfo() override {}
@@ -18,31 +23,35 @@ public:
     std::wstring& SetModuleName(const std::wstring& name) override { return m_name = name; }
     bool ReleaseCountedRef(KalCountedRef*, int) override { return false; }
     void NoOperation() override {}
-    IBinReader* GetResourceHandle() override { return &m_host.m_resources; }
+    IBinReader* GetResourceHandle() override { return &m_resources; }
 
 private:
-    HostGlobal& m_host;
-    std::wstring m_name = L"KalKernel";
+    IGlobal& m_host;
+    IBinReader& m_resources;
+    std::wstring m_name;
 };
 
-class HostGlobal::Data final : public IData {
-public:
-    explicit Data(HostGlobal& host) : m_host(host) {}
+} // namespace
 
-    IDataSheet* GetActiveDataSheet() override { return m_host.GetActiveDataSheet(); }
-    int GetDataTypeCode() override { return m_host.GetDataTypeCode(); }
-    IGlobal* GetGlobal() override { return &m_host; }
-    void Release() override {}
-    void PrintModuleInfo() override {}
-    std::wstring& GetModuleName() override { return m_name; }
-    std::wstring& SetModuleName(const std::wstring& name) override { return m_name = name; }
-    bool ReleaseCountedRef(KalCountedRef*, int) override { return false; }
-    void NoOperation() override {}
-    IBinReader* GetResourceHandle() override { return &m_host.m_resources; }
+// The host's command engine: prints each line it runs, UTF-8, exactly as
+// written.
+class HostGlobal::Kernel final : public HostModule<IKernel> {
+public:
+    explicit Kernel(HostGlobal& host) : HostModule(host, host.m_resources, L"KalKernel"), m_host(host) {}
+    int ExecuteLine(const CString& line) override { return m_host.ExecuteLine(line); }
 
 private:
     HostGlobal& m_host;
-    std::wstring m_name = L"KalData";
+};
+
+class HostGlobal::Data final : public HostModule<IData> {
+public:
+    explicit Data(HostGlobal& host) : HostModule(host, host.m_resources, L"KalData"), m_host(host) {}
+    IDataSheet* GetActiveDataSheet() override { return m_host.GetActiveDataSheet(); }
+    int GetDataTypeCode() override { return m_host.GetDataTypeCode(); }
+
+private:
+    HostGlobal& m_host;
 };
 
 HostGlobal::HostGlobal(ResourceTable& resources, std::ostream& out, std::ostream& err)

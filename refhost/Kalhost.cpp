@@ -221,21 +221,42 @@ int StatusOf(const ScriptRunner& runner, const std::string& script)
     }
 }
 
-int OpenHeadless(Session& session, const Options& options)
+// Makes a driver the active one for a scope.
+class DriverScope {
+public:
+    explicit DriverScope(CDialogDriver& driver) : m_previous(AfxSetDialogDriver(&driver)) {}
+    ~DriverScope() { AfxSetDialogDriver(m_previous); }
+    DriverScope(const DriverScope&) = delete;
+    DriverScope& operator=(const DriverScope&) = delete;
+
+private:
+    CDialogDriver* m_previous;
+};
+
+// `open ID`: sends the command with `driver` running the dialog it opens;
+// `setScript` gives the driver the script's actions, if there are any.
+int RunOpen(Session& session, const Options& options, CDialogDriver& driver,
+            const std::function<void(CHeadlessDriver::Script)>& setScript)
 {
-    CHeadlessDriver driver;
     std::optional<ScriptRunner> runner;
     if (!options.actionsFile.empty()) {
         runner.emplace(ParseScriptFile(options.actionsFile), nullptr, false);
-        driver.SetScript([&runner](CHeadlessSession& s) { runner->RunDialog(s); });
+        setScript([&runner](CHeadlessSession& s) { runner->RunDialog(s); });
     }
-    CDialogDriver* previous = AfxSetDialogDriver(&driver);
     const int before = session.Host().CommandsRun();
-    session.SendMenuCommand(options.commandId);
-    AfxSetDialogDriver(previous);
+    {
+        DriverScope scope(driver);
+        session.SendMenuCommand(options.commandId);
+    }
     if (runner && runner->Failed())
         return StatusOf(*runner, options.actionsFile);
     return session.Host().CommandsRun() > before ? kExitDone : kExitDialogNotConfirmed;
+}
+
+int OpenHeadless(Session& session, const Options& options)
+{
+    CHeadlessDriver driver;
+    return RunOpen(session, options, driver, [&driver](CHeadlessDriver::Script script) { driver.SetScript(std::move(script)); });
 }
 
 // The Qt view plugin beside kalhost; it stays loaded until the process
@@ -259,19 +280,9 @@ int OpenInWindow(Session& session, const Options& options, int& argc, char** arg
         throw UsageError("--gui needs a display (or --screenshot FILE.png to render without one)");
     const KalCreateQtViewFn create = LoadQtView();
     std::unique_ptr<IQtView> view(create(&argc, argv, !options.screenshotFile.empty() || noDisplay));
-    std::optional<ScriptRunner> runner;
-    if (!options.actionsFile.empty()) {
-        runner.emplace(ParseScriptFile(options.actionsFile), nullptr, false);
-        view->SetScript([&runner](CHeadlessSession& s) { runner->RunDialog(s); });
-    }
     view->SetScreenshotFile(options.screenshotFile);
-    CDialogDriver* previous = AfxSetDialogDriver(&view->Driver());
-    const int before = session.Host().CommandsRun();
-    session.SendMenuCommand(options.commandId);
-    AfxSetDialogDriver(previous);
-    if (runner && runner->Failed())
-        return StatusOf(*runner, options.actionsFile);
-    return session.Host().CommandsRun() > before ? kExitDone : kExitDialogNotConfirmed;
+    return RunOpen(session, options, view->Driver(),
+                   [&view](CHeadlessDriver::Script script) { view->SetScript(std::move(script)); });
 }
 
 int Play(Session& session, const Options& options)
@@ -280,14 +291,10 @@ int Play(Session& session, const Options& options)
     ScriptRunner runner(
         ParseScriptFile(options.playFile), [&session](UINT id) { session.SendMenuCommand(id); }, true);
     driver.SetScript([&runner](CHeadlessSession& s) { runner.RunDialog(s); });
-    CDialogDriver* previous = AfxSetDialogDriver(&driver);
-    try {
+    {
+        DriverScope scope(driver);
         runner.RunAll();
-    } catch (...) {
-        AfxSetDialogDriver(previous);
-        throw;
     }
-    AfxSetDialogDriver(previous);
     if (runner.GetOpenCount() == 0 && !runner.Failed())
         return kExitDone; // a script without dialogs has nothing to confirm
     return StatusOf(runner, options.playFile);

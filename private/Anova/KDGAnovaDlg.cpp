@@ -24,7 +24,7 @@ BEGIN_MESSAGE_MAP(CAnovaDlg, CGUIBaseDlg)
     ON_BN_CLICKED(IDC_RESET, &CAnovaDlg::OnReset)
 END_MESSAGE_MAP()
 
-CAnovaDlg::CAnovaDlg(CWnd* parent) : CGUIBaseDlg(IDD, parent)
+CAnovaDlg::CAnovaDlg(CWnd* parent) : CGUIDataDlg(IDD, parent)
 {
     SetSourceList(&m_SourceListCtrl);
     // The dependent list comes first: a double click on the source fills it.

@@ -5,10 +5,10 @@
 #pragma once
 
 #include "framework/FileEditCtrl.h"
-#include "framework/GUIBaseDlg.h"
+#include "framework/GUIDataDlg.h"
 #include "private/Anova/KDGAnovaData.h"
 
-class CAnovaDlg : public CGUIBaseDlg {
+class CAnovaDlg : public CGUIDataDlg<CAnovaData> {
     DECLARE_DYNAMIC(CAnovaDlg)
 public:
     enum : UINT {
@@ -36,11 +36,6 @@ public:
     };
 
     explicit CAnovaDlg(CWnd* parent = nullptr);
-
-    void SetData(CAnovaData* data) { m_pData = data; }
-    void GetData(CAnovaData*& data) const { data = m_pData; }
-    void SetData(CGUIBaseObj* data) override { m_pData = dynamic_cast<CAnovaData*>(data); }
-    void GetData(CGUIBaseObj*& data) override { data = m_pData; }
 
     // The dependent variables the page shows now (read by the other pages).
     int GetDependentListCount() const { return m_DependentListCtrl.GetItemCount(); }
@@ -87,7 +82,6 @@ private:
     // rules.
     void AfterDependentMove();
 
-    CAnovaData* m_pData = nullptr;
     CGUIListCtrl m_SourceListCtrl{true};
     CGUIListCtrl m_DependentListCtrl;
     CGUIListCtrl m_FactorListCtrl;

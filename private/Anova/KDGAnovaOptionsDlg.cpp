@@ -4,7 +4,7 @@
 
 IMPLEMENT_DYNAMIC(CAnovaOptionsDlg, CGUIBaseDlg)
 
-CAnovaOptionsDlg::CAnovaOptionsDlg(CWnd* parent) : CGUIBaseDlg(IDD, parent) {}
+CAnovaOptionsDlg::CAnovaOptionsDlg(CWnd* parent) : CGUIDataDlg(IDD, parent) {}
 
 BOOL CAnovaOptionsDlg::OnInitDialog()
 {

@@ -3,10 +3,10 @@
 // its controls were enabled; the settings write a value only then.
 #pragma once
 
-#include "framework/GUIBaseDlg.h"
+#include "framework/GUIDataDlg.h"
 #include "private/Anova/KDGAnovaOptionsData.h"
 
-class CAnovaOptionsDlg : public CGUIBaseDlg {
+class CAnovaOptionsDlg : public CGUIDataDlg<CAnovaOptionsData> {
     DECLARE_DYNAMIC(CAnovaOptionsDlg)
 public:
     enum : UINT {
@@ -28,10 +28,6 @@ public:
 
     explicit CAnovaOptionsDlg(CWnd* parent = nullptr);
 
-    void SetData(CAnovaOptionsData* data) { m_pData = data; }
-    void SetData(CGUIBaseObj* data) override { m_pData = dynamic_cast<CAnovaOptionsData*>(data); }
-    void GetData(CGUIBaseObj*& data) override { data = m_pData; }
-
     BOOL OnInitDialog() override;
     void DoDataExchange(CDataExchange* pDX) override;
     int GetAll() override;
@@ -42,7 +38,6 @@ public:
     const char* GetSourceFile() const override { return "Source/KDGAnovaOptionsDlg"; }
 
 private:
-    CAnovaOptionsData* m_pData = nullptr;
     int m_KsCheck = 0;
     int m_AdCheck = 0;
     int m_SwCheck = 0;

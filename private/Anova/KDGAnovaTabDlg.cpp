@@ -2,7 +2,7 @@
 
 IMPLEMENT_DYNAMIC(CAnovaTabDlg, CGUITabDlg)
 
-CAnovaTabDlg::CAnovaTabDlg(CWnd* parent) : CGUITabDlg(IDD, parent, IDC_TAB)
+CAnovaTabDlg::CAnovaTabDlg(CWnd* parent) : CGUIDataDlg(IDD, parent, IDC_TAB)
 {
     AddPage(m_AnovaDlg);
     AddPage(m_RepeatMeasuresDlg);
@@ -10,9 +10,9 @@ CAnovaTabDlg::CAnovaTabDlg(CWnd* parent) : CGUITabDlg(IDD, parent, IDC_TAB)
     AddPage(m_BootStrapDlg);
 }
 
-void CAnovaTabDlg::SetData(CAnovaTabData* data)
+void CAnovaTabDlg::OnDataSet()
 {
-    m_pData = data;
+    CAnovaTabData* data = m_pData;
     m_AnovaDlg.SetData(data ? data->GetAnovaData() : nullptr);
     m_RepeatMeasuresDlg.SetData(data ? data->GetRepeatMeasuresData() : nullptr);
     m_AnovaOptionsDlg.SetData(data ? data->GetAnovaOptionsData() : nullptr);

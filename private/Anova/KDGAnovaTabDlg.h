@@ -3,23 +3,19 @@
 #pragma once
 
 #include "framework/BootStrapDlg.h"
+#include "framework/GUIDataDlg.h"
 #include "framework/GUITabDlg.h"
 #include "private/Anova/KDGAnovaDlg.h"
 #include "private/Anova/KDGAnovaOptionsDlg.h"
 #include "private/Anova/KDGAnovaTabData.h"
 #include "private/Anova/KDGRepeatMeasuresDlg.h"
 
-class CAnovaTabDlg : public CGUITabDlg {
+class CAnovaTabDlg : public CGUIDataDlg<CAnovaTabData, CGUITabDlg> {
     DECLARE_DYNAMIC(CAnovaTabDlg)
 public:
     enum : UINT { IDD = 101, IDC_TAB = 1200 };
 
     explicit CAnovaTabDlg(CWnd* parent = nullptr);
-
-    // Gives each page its part of the tab settings.
-    void SetData(CAnovaTabData* data);
-    void SetData(CGUIBaseObj* data) override { SetData(dynamic_cast<CAnovaTabData*>(data)); }
-    void GetData(CGUIBaseObj*& data) override { data = m_pData; }
 
     int GetAllDefault() override;
     const char* GetSourceFile() const override { return "Source/KDGAnovaTabDlg"; }
@@ -29,8 +25,11 @@ public:
     CAnovaOptionsDlg& GetAnovaOptionsDlg() { return m_AnovaOptionsDlg; }
     CBootStrapDlg& GetBootStrapDlg() { return m_BootStrapDlg; }
 
+protected:
+    // Gives each page its part of the tab settings.
+    void OnDataSet() override;
+
 private:
-    CAnovaTabData* m_pData = nullptr;
     CAnovaDlg m_AnovaDlg{this};
     CRepeatMeasuresDlg m_RepeatMeasuresDlg{this};
     CAnovaOptionsDlg m_AnovaOptionsDlg{this};

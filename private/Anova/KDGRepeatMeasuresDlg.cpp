@@ -11,11 +11,11 @@ BEGIN_MESSAGE_MAP(CRepeatMeasuresDlg, CKVGridMultiCtrlBaseDlg)
     ON_BN_CLICKED(CRepeatMeasuresDlg::IDC_ON_OFF, &CRepeatMeasuresDlg::OnOnOffCheck)
 END_MESSAGE_MAP()
 
-CRepeatMeasuresDlg::CRepeatMeasuresDlg(CWnd* parent) : CKVGridMultiCtrlBaseDlg(IDD, parent, IDC_GRID) {}
+CRepeatMeasuresDlg::CRepeatMeasuresDlg(CWnd* parent) : CGUIDataDlg(IDD, parent, IDC_GRID) {}
 
 BOOL CRepeatMeasuresDlg::OnInitDialog()
 {
-    CKVGridMultiCtrlBaseDlg::OnInitDialog();
+    CGUIDataDlg::OnInitDialog();
     // The row-number column needs half the room of the others.
     GetGrid().SetColumnWidth(colNumber, GetGrid().GetColumnWidth(colName) / 2);
     return TRUE;
@@ -23,7 +23,7 @@ BOOL CRepeatMeasuresDlg::OnInitDialog()
 
 void CRepeatMeasuresDlg::DoDataExchange(CDataExchange* pDX)
 {
-    CKVGridMultiCtrlBaseDlg::DoDataExchange(pDX);
+    CGUIDataDlg::DoDataExchange(pDX);
     DDX_Check(pDX, IDC_ON_OFF, m_OnOff);
     if (!pDX->m_bSaveAndValidate)
         FillGridFromData();
@@ -59,7 +59,7 @@ int CRepeatMeasuresDlg::SetAllDefault()
 int CRepeatMeasuresDlg::OKLike()
 {
     FillDataFromGrid();
-    return CKVGridMultiCtrlBaseDlg::OKLike();
+    return CGUIDataDlg::OKLike();
 }
 
 void CRepeatMeasuresDlg::UpdateDependentWindows()

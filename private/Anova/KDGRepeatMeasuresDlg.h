@@ -3,10 +3,11 @@
 // in use only when the model page has at least two dependent variables.
 #pragma once
 
+#include "framework/GUIDataDlg.h"
 #include "framework/KVGridMultiCtrlBaseDlg.h"
 #include "private/Anova/KDGRepeatMeasuresData.h"
 
-class CRepeatMeasuresDlg : public CKVGridMultiCtrlBaseDlg {
+class CRepeatMeasuresDlg : public CGUIDataDlg<CRepeatMeasuresData, CKVGridMultiCtrlBaseDlg> {
     DECLARE_DYNAMIC(CRepeatMeasuresDlg)
 public:
     enum : UINT {
@@ -20,10 +21,6 @@ public:
     static constexpr UINT kMsgSingleLevel = 2007;
 
     explicit CRepeatMeasuresDlg(CWnd* parent = nullptr);
-
-    void SetData(CRepeatMeasuresData* data) { m_pData = data; }
-    void SetData(CGUIBaseObj* data) override { m_pData = dynamic_cast<CRepeatMeasuresData*>(data); }
-    void GetData(CGUIBaseObj*& data) override { data = m_pData; }
 
     BOOL OnInitDialog() override;
     void DoDataExchange(CDataExchange* pDX) override;
@@ -51,7 +48,6 @@ private:
     void FillGridFromData();
     void FillDataFromGrid();
 
-    CRepeatMeasuresData* m_pData = nullptr;
     int m_OnOff = 0;
     CGUIArray<CString> m_arrStrName;
     CGUIArray<int> m_arrLevels;
