@@ -397,3 +397,32 @@ TEST_F(AnovaDialog, MissingControlsAreReportedNotFatal)
     ASSERT_EQ(capture.reports.size(), 1u);
     EXPECT_EQ(capture.reports[0].first, "Source/KDGAnovaDlg");
 }
+
+TEST_F(AnovaDialog, ResamplingEditsKeepTheirStateFlagAndRefuseBadNumbers)
+{
+    Run([this](CHeadlessSession& s) {
+        Move(s, {u"Y"}, ADD_DEP);
+        s.Page(3);
+        EXPECT_FALSE(s.IsEnabled(CBootStrapDlg::IDC_SAMPLES));
+        s.Click(CBootStrapDlg::IDC_METHOD_BOOTSTRAP);
+        EXPECT_TRUE(s.IsEnabled(CBootStrapDlg::IDC_SAMPLES));
+        s.Type(CBootStrapDlg::IDC_SAMPLES, u"1e3");
+        s.Ok();
+        EXPECT_TRUE(s.IsOpen());
+        s.Type(CBootStrapDlg::IDC_SAMPLES, u"0");
+        s.Ok();
+        EXPECT_TRUE(s.IsOpen());
+        EXPECT_EQ(host.messages, (std::vector<UINT>{CBootStrapDlg::kMsgNotWhole, CBootStrapDlg::kMsgOutOfRange}));
+        s.Type(CBootStrapDlg::IDC_SAMPLES, u" 250 ");
+        s.Type(CBootStrapDlg::IDC_RANDOM_SEED, u"0");
+        s.Ok();
+    });
+    int method = 0;
+    CGUIData<int> samples, size;
+    CGUIData<unsigned int> seed;
+    data.GetBootStrapData()->GetAll(method, samples, size, seed);
+    EXPECT_EQ(samples.m_Value, 250);
+    EXPECT_EQ(samples.m_nState, 0); // changed from its default
+    EXPECT_EQ(seed.m_nState, 1);    // typed, but equal to its default
+    EXPECT_EQ(Commands().back(), u"ESTIMATE / SS = TYPE3 SAMPLE = BOOT(250)");
+}
