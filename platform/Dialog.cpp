@@ -128,11 +128,18 @@ INT_PTR CDialog::DoModal()
     if (!CreateControls())
         return -1;
     m_bModal = true;
+    // The controls go and the dialog stops being modal however the run ends,
+    // an exception from a driver or handler included.
+    struct Closer {
+        CDialog& dialog;
+        ~Closer()
+        {
+            dialog.DestroyWindow();
+            dialog.m_bModal = false;
+        }
+    } closer{*this};
     OnInitDialog();
-    const INT_PTR result = m_bEnded ? m_nResult : driver->RunModal(*this);
-    DestroyWindow();
-    m_bModal = false;
-    return result;
+    return m_bEnded ? m_nResult : driver->RunModal(*this);
 }
 
 BOOL CDialog::CreateChild(CWnd* parent)
