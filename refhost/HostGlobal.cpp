@@ -96,7 +96,10 @@ bool HostGlobal::IsCommandAllowed(UINT)
 
 void HostGlobal::ReportMessage(UINT messageId, int)
 {
-    m_err << "message " << messageId << ": " << m_resources.GetMessageText(messageId).ToUtf8() << std::endl;
+    const CString text = m_resources.GetMessageText(messageId);
+    m_err << "message " << messageId << ": " << text.ToUtf8() << std::endl;
+    if (m_presenter)
+        m_presenter(text);
 }
 
 int HostGlobal::GetDataTypeCode()

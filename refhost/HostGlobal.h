@@ -11,6 +11,7 @@
 #include "refhost/Resources.h"
 #include "refhost/SettingsStore.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <ostream>
@@ -43,6 +44,9 @@ public:
     SettingsStore& Store() { return m_store; }
     ResourceTable& Resources() { return m_resources; }
     void SetCurrentCommandModule(const CString& name) { m_currentModule = name; }
+    // Where messages are shown besides standard error (a window's message
+    // box); empty for none.
+    void SetMessagePresenter(std::function<void(const CString& text)> presenter) { m_presenter = std::move(presenter); }
 
     // How many dialogs ran their commands.
     int CommandsRun() const { return m_commandsRun; }
@@ -93,6 +97,7 @@ private:
     std::unique_ptr<DataSheet> m_sheet;
     SettingsStore m_store;
     CString m_currentModule;
+    std::function<void(const CString&)> m_presenter;
     std::set<CString> m_moduleNames;
     std::unique_ptr<Kernel> m_kernel;
     std::unique_ptr<Data> m_data;

@@ -281,6 +281,13 @@ int OpenInWindow(Session& session, const Options& options, int& argc, char** arg
     const KalCreateQtViewFn create = LoadQtView();
     std::unique_ptr<IQtView> view(create(&argc, argv, !options.screenshotFile.empty() || noDisplay));
     view->SetScreenshotFile(options.screenshotFile);
+    // A user at the window sees messages there; a screenshot run has none.
+    if (options.screenshotFile.empty())
+        session.Host().SetMessagePresenter([&view](const CString& text) { view->ShowMessage(text); });
+    struct PresenterReset {
+        HostGlobal& host;
+        ~PresenterReset() { host.SetMessagePresenter({}); }
+    } reset{session.Host()};
     return RunOpen(session, options, view->Driver(),
                    [&view](CHeadlessDriver::Script script) { view->SetScript(std::move(script)); });
 }

@@ -2,6 +2,9 @@
 
 #include "refhost/qt/QtView.h"
 
+#include <QApplication>
+#include <QMessageBox>
+
 namespace {
 
 class QtView final : public kalhost::IQtView {
@@ -11,6 +14,11 @@ public:
     CDialogDriver& Driver() override { return m_driver; }
     void SetScript(std::function<void(CHeadlessSession&)> script) override { m_driver.SetScript(std::move(script)); }
     void SetScreenshotFile(const std::string& file) override { m_driver.SetScreenshotFile(file); }
+    void ShowMessage(const CString& text) override
+    {
+        QMessageBox::warning(QApplication::activeWindow(), QStringLiteral("kalhost"),
+                             QString::fromUtf8(text.ToUtf8().c_str()));
+    }
 
 private:
     kalhost::qt::QtApplication m_application;

@@ -16,6 +16,8 @@ public:
     // See qt::QtDialogDriver.
     virtual void SetScript(std::function<void(CHeadlessSession&)> script) = 0;
     virtual void SetScreenshotFile(const std::string& file) = 0;
+    // A message box over the active window; returns when the user closes it.
+    virtual void ShowMessage(const CString& text) = 0;
 };
 
 } // namespace kalhost

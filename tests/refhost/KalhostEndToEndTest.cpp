@@ -174,3 +174,28 @@ TEST(KalhostData, BadDataFilesAreRefusedWithFileLineAndColumn)
     EXPECT_EQ(plants.status, 0) << plants.err;
     EXPECT_NE(plants.out.find("CATEGORY dose soil$ / REPLACE\n"), std::string::npos);
 }
+
+TEST(KalhostWindow, ScreenshotsRenderWithoutADisplayAndOkStillRuns)
+{
+    const auto plugin = std::filesystem::path(KALHOST_PATH).parent_path() / "libkalqtview.so";
+    if (!std::filesystem::exists(plugin))
+        GTEST_SKIP() << "built without the Qt view";
+    TempDir dir;
+    const std::string picture = dir.Path() + "/anova.png";
+    const auto script = dir.Write("a.kal", "select 1075 Y\nclick 1067\npage 2\ncheck 1081 1\n");
+    const auto open = Kalhost({"open", "2008", "--gui", "--screenshot", picture, "--actions", script});
+    EXPECT_EQ(open.status, 1) << open.err; // the script left the dialog open
+    EXPECT_EQ(open.err, "");
+    std::ifstream png(picture, std::ios::binary);
+    char signature[8] = {};
+    png.read(signature, sizeof signature);
+    EXPECT_EQ(std::string(signature, 8), "\x89PNG\r\n\x1a\n");
+    EXPECT_GT(std::filesystem::file_size(picture), 5000u);
+
+    const auto ok = dir.Write("ok.kal", "select 1075 Y\nclick 1067\nok\n");
+    const auto confirmed = Kalhost({"open", "2008", "--gui", "--screenshot", picture, "--actions", ok});
+    EXPECT_EQ(confirmed.status, 0) << confirmed.err;
+    EXPECT_EQ(confirmed.out, "ANOVA\nDEPEND Y\nCATEGORY A B / REPLACE\nCOVAR \nESTIMATE / SS = TYPE3\n");
+
+    EXPECT_EQ(Kalhost({"open", "2008", "--screenshot", picture}).status, 2); // needs --gui
+}
