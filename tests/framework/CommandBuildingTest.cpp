@@ -15,14 +15,6 @@ protected:
     FakeHost host;
     HostScope scope{&host};
     CGUIBaseObj settings;
-
-    static CGUIArray<CGUIDataVariable> Vars(std::initializer_list<std::u16string> names)
-    {
-        CGUIArray<CGUIDataVariable> list;
-        for (const auto& n : names)
-            list.Add(CGUIDataVariable(CString(n), NmsEnum::VT_NUMERIC));
-        return list;
-    }
 };
 
 CLIST<CCmdInfo> ListOf(std::initializer_list<std::u16string> lines)

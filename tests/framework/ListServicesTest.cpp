@@ -9,14 +9,6 @@ using namespace kaltest;
 
 namespace {
 
-CGUIArray<CGUIDataVariable> Vars(std::initializer_list<std::u16string> names)
-{
-    CGUIArray<CGUIDataVariable> list;
-    for (const auto& n : names)
-        list.Add(CGUIDataVariable(CString(n), NmsEnum::VT_NUMERIC));
-    return list;
-}
-
 std::vector<std::u16string> Names(const CGUIArray<CGUIDataVariable>& list)
 {
     std::vector<std::u16string> names;

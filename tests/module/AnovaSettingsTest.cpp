@@ -12,14 +12,6 @@ using Lines16 = std::vector<std::u16string>;
 
 namespace {
 
-CGUIArray<CGUIDataVariable> Vars(std::initializer_list<std::u16string> names)
-{
-    CGUIArray<CGUIDataVariable> list;
-    for (const auto& n : names)
-        list.Add(CGUIDataVariable(CString(n), NmsEnum::VT_NUMERIC));
-    return list;
-}
-
 class AnovaSettings : public ::testing::Test {
 protected:
     FakeHost host;

@@ -72,4 +72,12 @@ std::vector<std::u16string> Lines(const CLIST<CCmdInfo>& list)
     return lines;
 }
 
+CGUIArray<CGUIDataVariable> Vars(std::initializer_list<std::u16string> names)
+{
+    CGUIArray<CGUIDataVariable> list;
+    for (const auto& n : names)
+        list.Add(CGUIDataVariable(CString(n), NmsEnum::VT_NUMERIC));
+    return list;
+}
+
 } // namespace kaltest

@@ -137,4 +137,7 @@ private:
 // The command list as plain UTF-16 strings, for comparisons.
 std::vector<std::u16string> Lines(const CLIST<CCmdInfo>& list);
 
+// A variable list of numeric variables with these names.
+CGUIArray<CGUIDataVariable> Vars(std::initializer_list<std::u16string> names);
+
 } // namespace kaltest
