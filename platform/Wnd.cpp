@@ -54,7 +54,6 @@ void CWnd::SetWindowText(const CString& text)
 
 void CWnd::Invalidate(BOOL)
 {
-    ++m_nInvalidated;
     OnInvalidated();
     Changed(WndAspect::Invalidated);
 }

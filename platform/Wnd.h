@@ -70,7 +70,6 @@ public:
     void SetWindowText(const CString& text);
     CString GetWindowText() const { return m_strText; }
     void Invalidate(BOOL erase = TRUE);
-    int GetInvalidateCount() const { return m_nInvalidated; }
 
     void SetToolTipText(const CString& text);
     const CString& GetToolTipText() const { return m_strToolTip; }
@@ -116,7 +115,6 @@ protected:
     bool m_bVisible = true;
     CString m_strText;
     CString m_strToolTip;
-    int m_nInvalidated = 0;
     std::vector<CWnd*> m_children;
     CWndView* m_pView = nullptr;
 };

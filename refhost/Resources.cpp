@@ -249,12 +249,4 @@ CString ResourceTable::GetMessageText(UINT id) const
     return it == m_messages.end() ? CString() : it->second;
 }
 
-std::vector<UINT> ResourceTable::DialogIds() const
-{
-    std::vector<UINT> ids;
-    for (const auto& [id, t] : m_dialogs)
-        ids.push_back(id);
-    return ids;
-}
-
 } // namespace kalhost

@@ -46,7 +46,6 @@ public:
     // Message `id`, or an empty text.
     CString GetMessageText(UINT id) const;
     const std::vector<MenuNode>& GetMenuBar() const { return m_menus; }
-    std::vector<UINT> DialogIds() const;
 
 private:
     std::map<UINT, CString> m_strings;
