@@ -5,6 +5,7 @@
 #include "private/Anova/KDGAnovaTabDlg.h"
 #include "refhost/qt/QtView.h"
 #include "tests/qt/QtTestSupport.h"
+#include "tests/support/AnovaControls.h"
 #include "tests/support/FakeHost.h"
 
 #include <QColor>
@@ -18,19 +19,12 @@
 #include <cstdlib>
 
 using namespace kaltest;
+using namespace kaltest::anova;
 using kalqttest::Action;
 using Lines16 = std::vector<std::u16string>;
 
 namespace {
 
-enum : UINT {
-    SOURCE = CAnovaDlg::IDC_SOURCE_LIST,
-    DEPENDENT = CAnovaDlg::IDC_DEPENDENT_LIST,
-    FACTOR = CAnovaDlg::IDC_FACTOR_LIST,
-    COVARIATE = CAnovaDlg::IDC_COVARIATE_LIST,
-    SAVE_EDIT = CAnovaDlg::IDC_SAVE_FILE_EDIT,
-    RM_GRID = CRepeatMeasuresDlg::IDC_GRID,
-};
 
 Action Select(UINT list, std::vector<std::u16string> names) { return {Action::Select, list, std::move(names)}; }
 Action Click(UINT id) { return {Action::Click, id}; }
