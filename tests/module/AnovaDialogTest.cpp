@@ -296,7 +296,7 @@ TEST_F(AnovaDialog, LevelValidationRefusesOkWithItsMessage)
         const INT_PTR result = Run([&c](CHeadlessSession& s) {
             std::vector<CString> dependents;
             for (int i = 0; i < c.dependents; ++i)
-                dependents.push_back(CString(i == 0 ? std::u16string(u"Y") : u"Y" + std::u16string(1, char16_t(u'1' + i))));
+                dependents.push_back(CString(i == 0 ? std::u16string(u"Y") : std::u16string{u'Y', char16_t(u'1' + i)}));
             s.Select(SOURCE, dependents);
             s.Click(ADD_DEP);
             s.Page(1);

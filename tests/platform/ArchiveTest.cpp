@@ -71,8 +71,7 @@ TEST(ArchiveStrings, EightBitFormLoadsAsLatin1)
     EXPECT_EQ(LoadString({0x03, 'a', 'b', 0xE9}), CString(u"ab\u00E9"));
     EXPECT_EQ(LoadString({0x00}), CString());
     // Long 8-bit form: FF + WORD length.
-    Bytes longForm = {0xFF, 0x2C, 0x01};
-    longForm.insert(longForm.end(), 300, 'x');
+    const Bytes longForm = Cat({{0xFF, 0x2C, 0x01}, Bytes(300, 'x')});
     EXPECT_EQ(LoadString(longForm), Repeated(300, u'x'));
 }
 
