@@ -4,6 +4,7 @@
 // (the gaps inside a handler's range included) do nothing.
 #pragma once
 
+#include "framework/CmdInfo.h"
 #include "framework/GUIArray.h"
 #include "framework/KVMsg.h"
 #include "platform/CString.h"
@@ -12,6 +13,7 @@
 #include <span>
 #include <string>
 
+class CGUIBaseObj;
 class IGlobal;
 class IGrHitNodeInfo;
 struct MenuCommandRow;
@@ -20,6 +22,11 @@ struct MenuCommandRow;
 // from, or null for a menu command.
 using LaunchRoutine = void (*)(IGlobal* global, UINT id, void* parent, const MenuCommandRow& row,
                                IGrHitNodeInfo* node);
+// The lines an immediate OK in the row's dialog writes for the settings
+// `stored` (null: the defaults); false when the dialog refuses the OK or
+// `stored` is not of the row's settings class.
+using ConfirmRoutine = bool (*)(IGlobal* global, UINT id, const MenuCommandRow& row, const CGUIBaseObj* stored,
+                                CLIST<CCmdInfo>& lines);
 
 struct MenuCommandRow {
     UINT id;
@@ -30,14 +37,16 @@ struct MenuCommandRow {
     // Null while the analysis is not part of this module: the command is
     // recognised and routed, and reports that it is not available.
     LaunchRoutine launch;
+    ConfirmRoutine confirm;
 
     bool IsAvailable() const { return launch != nullptr; }
 };
 
 // A row whose dialog and settings classes are part of the module.
-#define KAL_MENU_ROW(id, Dlg, Data, ...) {id, #Dlg, #Data, {__VA_ARGS__}, &LaunchDialog<Dlg, Data>}
+#define KAL_MENU_ROW(id, Dlg, Data, ...) \
+    {id, #Dlg, #Data, {__VA_ARGS__}, &LaunchDialog<Dlg, Data>, &ConfirmDialog<Dlg, Data>}
 // A row of the menu table whose analysis this module does not hold yet.
-#define KAL_MENU_ROW_UNAVAILABLE(id, Dlg, Data, ...) {id, #Dlg, #Data, {__VA_ARGS__}, nullptr}
+#define KAL_MENU_ROW_UNAVAILABLE(id, Dlg, Data, ...) {id, #Dlg, #Data, {__VA_ARGS__}, nullptr, nullptr}
 
 class CMenuGroupMsg : public CKVMsg {
 public:

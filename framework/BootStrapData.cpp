@@ -4,32 +4,6 @@
 
 IMPLEMENT_SERIAL(CBootStrapData, CGUIBaseObj, 1)
 
-CBootStrapData::CBootStrapData()
-    : m_nMethod(GetDefaultMethodRadio()), m_Samples(GetDefaultSamplesEdit()), m_SampleSize(GetDefaultSampleSizeEdit()),
-      m_RandomSeed(GetDefaultRandomSeedEdit())
-{
-}
-
-int CBootStrapData::GetAll(int& method, CGUIData<int>& samples, CGUIData<int>& sampleSize,
-                           CGUIData<unsigned int>& seed) const
-{
-    method = m_nMethod;
-    samples = m_Samples;
-    sampleSize = m_SampleSize;
-    seed = m_RandomSeed;
-    return 1;
-}
-
-int CBootStrapData::SetAll(int method, const CGUIData<int>& samples, const CGUIData<int>& sampleSize,
-                           const CGUIData<unsigned int>& seed)
-{
-    m_nMethod = method;
-    m_Samples = samples;
-    m_SampleSize = sampleSize;
-    m_RandomSeed = seed;
-    return 1;
-}
-
 bool CBootStrapData::IsMethodAvailable(int method) const
 {
     switch (method) {
@@ -45,15 +19,19 @@ CString CBootStrapData::GetClause() const
 {
     if (m_nMethod == methodNone || !IsMethodAvailable(m_nMethod))
         return {};
+    // A size of 0 draws as many cases as the data has, a seed of 0 a new
+    // seed each run: both go without saying unless the host asks for every
+    // option.
     const CString samples = NumberText(m_Samples.m_Value);
-    const CString size = m_SampleSize.m_Value > 0 ? u", " + NumberText(m_SampleSize.m_Value) : CString();
+    const bool writeSize = m_SampleSize.m_Value != 0 || IsToBeWritten(m_SampleSize);
+    const CString size = writeSize ? u", " + NumberText(m_SampleSize.m_Value) : CString();
     CString clause;
     switch (m_nMethod) {
     case methodBootstrap: clause = u" SAMPLE = BOOT(" + samples + size + u")"; break;
     case methodJackknife: clause = u" SAMPLE = JACK"; break;
     default: clause = u" SAMPLE = SIMPLE(" + samples + size + u")"; break;
     }
-    if (m_nMethod != methodJackknife && m_RandomSeed.m_Value != 0)
+    if (m_nMethod != methodJackknife && (m_RandomSeed.m_Value != 0 || IsToBeWritten(m_RandomSeed)))
         clause += u" RSEED = " + NumberText(m_RandomSeed.m_Value);
     return clause;
 }
@@ -61,13 +39,8 @@ CString CBootStrapData::GetClause() const
 void CBootStrapData::Serialize(CArchive& ar)
 {
     CGUIBaseObj::Serialize(ar);
-    if (ar.IsStoring())
-        ar << m_nMethod << m_nContinuousType << m_nDeletionTypePairwise << m_nEMEstimation;
-    else
-        ar >> m_nMethod >> m_nContinuousType >> m_nDeletionTypePairwise >> m_nEMEstimation;
-    m_Samples.Serialize(ar);
-    m_SampleSize.Serialize(ar);
-    m_RandomSeed.Serialize(ar);
+    kal::SerializeValues(ar, m_nMethod, m_nContinuousType, m_nDeletionTypePairwise, m_nEMEstimation, m_Samples,
+                         m_SampleSize, m_RandomSeed);
 }
 
 void CBootStrapData::GetCommandInfoList(CLIST<CCmdInfo>& list) const

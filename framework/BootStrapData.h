@@ -10,25 +10,35 @@
 //   then " RSEED = s" for a fixed seed. No resampling writes nothing.
 #pragma once
 
+#include "framework/Fields.h"
 #include "framework/GUIBaseObj.h"
+#include "ids/shared.h"
+
+#include <climits>
 
 class CBootStrapData : public CGUIBaseObj {
     DECLARE_SERIAL(CBootStrapData)
 public:
     enum Method { methodNone = 0, methodBootstrap = 1, methodJackknife = 2, methodSubsampling = 3 };
 
-    CBootStrapData();
+    CBootStrapData() { kal::ResetFields(*this); }
 
     static int GetDefaultMethodRadio() { return methodNone; }
     static CGUIData<int> GetDefaultSamplesEdit() { return CGUIData<int>(1000); }
     static CGUIData<int> GetDefaultSampleSizeEdit() { return CGUIData<int>(0); }
     static CGUIData<unsigned int> GetDefaultRandomSeedEdit() { return CGUIData<unsigned int>(0u); }
 
-    int GetAll(int& method, CGUIData<int>& samples, CGUIData<int>& sampleSize, CGUIData<unsigned int>& seed) const;
+    int GetAll(int& method, CGUIData<int>& samples, CGUIData<int>& sampleSize, CGUIData<unsigned int>& seed) const
+    {
+        return kal::CopyFieldsOut(*this, method, samples, sampleSize, seed);
+    }
     // The settings-from-output-node form stays visible beside this one.
     using CGUIBaseObj::SetAll;
     int SetAll(int method, const CGUIData<int>& samples, const CGUIData<int>& sampleSize,
-               const CGUIData<unsigned int>& seed);
+               const CGUIData<unsigned int>& seed)
+    {
+        return kal::CopyFieldsIn(*this, method, samples, sampleSize, seed);
+    }
 
     // What the analysis is: continuous dependent variables (jackknife needs
     // them), pairwise deletion of missing values (no subsampling: every
@@ -47,6 +57,20 @@ public:
     void Serialize(CArchive& ar) override;
     void GetCommandInfoList(CLIST<CCmdInfo>& list) const override;
     void ReassignDefaultValue() override {}
+
+    // The page's controls (template 5400); the counts are checked while
+    // their edits are in use.
+    static constexpr auto Fields()
+    {
+        using F = kal::FieldsOf<CBootStrapData>;
+        using Ids = CBootStrapDlgIds;
+        return std::tuple{
+            F::Value(&CBootStrapData::m_nMethod, Ids::IDC_METHOD_NONE, &GetDefaultMethodRadio),
+            F::Value(&CBootStrapData::m_Samples, Ids::IDC_SAMPLES, &GetDefaultSamplesEdit).Range(1, INT_MAX),
+            F::Value(&CBootStrapData::m_SampleSize, Ids::IDC_SAMPLE_SIZE, &GetDefaultSampleSizeEdit).Range(0, INT_MAX),
+            F::Value(&CBootStrapData::m_RandomSeed, Ids::IDC_RANDOM_SEED, &GetDefaultRandomSeedEdit),
+        };
+    }
 
 private:
     int m_nMethod;

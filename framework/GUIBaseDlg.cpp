@@ -1,6 +1,8 @@
 #include "framework/GUIBaseDlg.h"
 
+#include "framework/Fields.h"
 #include "framework/GUITabCtrl.h"
+#include "framework/GUITabDlg.h"
 #include "host/KalAssertDlg.h"
 
 #include <unordered_set>
@@ -9,6 +11,7 @@ IMPLEMENT_DYNAMIC(CGUIBaseDlg, CDDXVDlg)
 
 BEGIN_MESSAGE_MAP(CGUIBaseDlg, CDDXVDlg)
     ON_NOTIFY_RANGE(LVN_ITEMCHANGED, 0, 0xFFFFFFFF, &CGUIBaseDlg::OnItemchangedListCtrl)
+    ON_NOTIFY_RANGE(LVN_BEGINDRAG, 0, 0xFFFFFFFF, &CGUIBaseDlg::OnBegindrag)
     ON_NOTIFY_RANGE(NM_DBLCLK, 0, 0xFFFFFFFF, &CGUIBaseDlg::OnDblclkListCtrl)
     ON_NOTIFY_RANGE(TCN_SELCHANGE, 0, 0xFFFFFFFF, &CGUIBaseDlg::OnSelchangeTab)
     ON_BN_CLICKED(IDC_RESET, &CGUIBaseDlg::OnReset)
@@ -83,15 +86,6 @@ void CGUIBaseDlg::ShowChildWindows(long show)
         child->ShowWindow(show ? SW_SHOW : SW_HIDE);
 }
 void CGUIBaseDlg::SetInitialDlgAndObj(long) {}
-void CGUIBaseDlg::UpdateDependentWindows() {}
-BOOL CGUIBaseDlg::OnAddTarget(UINT)
-{
-    return TRUE;
-}
-BOOL CGUIBaseDlg::OnUpdateAddTarget(CCmdUI*)
-{
-    return TRUE;
-}
 void CGUIBaseDlg::OnSetDefault(CMultiListInfo*, CString&) {}
 void CGUIBaseDlg::OnUpdateComboChange(int) {}
 BOOL CGUIBaseDlg::IsBootStrapWindowEnabled()
@@ -155,6 +149,7 @@ BOOL CGUIBaseDlg::OnInitDialog()
     InitializeListCtrl();
     InitDialogLike();
     AddToolTips();
+    CreateListCtrlMenu();
     return TRUE;
 }
 
@@ -271,24 +266,50 @@ void CGUIBaseDlg::ReportAssertion(int line) const
 
 // --- Variable moves ---------------------------------------------------------
 
-void CGUIBaseDlg::AddTargetList(CGUIListCtrl* target, UINT addButton, UINT removeButton, int nMax)
+CGUIListCtrl& CGUIBaseDlg::ListCtrl(UINT listId)
 {
-    m_targets.push_back({target, addButton, removeButton, nMax});
+    auto& control = m_listCtrls[listId];
+    if (!control)
+        control = std::make_unique<CGUIListCtrl>();
+    return *control;
 }
 
-const CGUIBaseDlg::TargetList* CGUIBaseDlg::FindTarget(const CWnd* list) const
+CFileEditCtrl& CGUIBaseDlg::FileEditCtrl(UINT id)
 {
-    for (const auto& t : m_targets)
-        if (t.list == list)
-            return &t;
+    auto& control = m_fileEditCtrls[id];
+    if (!control)
+        control = std::make_unique<CFileEditCtrl>();
+    return *control;
+}
+
+void CGUIBaseDlg::SetSourceList(UINT listId)
+{
+    auto& control = m_listCtrls[listId];
+    control = std::make_unique<CGUIListCtrl>(true);
+    m_pSourceList = control.get();
+}
+
+void CGUIBaseDlg::AddRoleList(CRoleList row)
+{
+    ListCtrl(row.list);
+    m_roleLists.push_back(std::move(row));
+}
+
+const CRoleList* CGUIBaseDlg::FindRoleList(const CWnd* list) const
+{
+    for (const auto& row : m_roleLists) {
+        const auto it = m_listCtrls.find(row.list);
+        if (it != m_listCtrls.end() && it->second.get() == list)
+            return &row;
+    }
     return nullptr;
 }
 
-const CGUIBaseDlg::TargetList* CGUIBaseDlg::FindTargetByButton(UINT buttonId) const
+const CRoleList* CGUIBaseDlg::FindRoleListByButton(UINT buttonId) const
 {
-    for (const auto& t : m_targets)
-        if (t.addButton == buttonId || t.removeButton == buttonId)
-            return &t;
+    for (const auto& row : m_roleLists)
+        if (row.add == buttonId || row.remove == buttonId)
+            return &row;
     return nullptr;
 }
 
@@ -328,13 +349,64 @@ BOOL CGUIBaseDlg::EnableSourceToTarget(CGUIListCtrl* from, CGUIListCtrl* to, int
         return FALSE;
     if (!from->IsSourceList())
         return TRUE;
-    const TargetList* move = buttonId >= 0 ? FindTargetByButton(static_cast<UINT>(buttonId)) : FindTarget(to);
-    if (move && move->nMax > 0 && to->GetItemCount() >= move->nMax)
+    const CRoleList* move = buttonId >= 0 ? FindRoleListByButton(static_cast<UINT>(buttonId)) : FindRoleList(to);
+    if (move && move->maxItems > 0 && to->GetItemCount() >= move->maxItems)
         return FALSE;
     for (const int i : from->GetSelectedItems())
         if (!to->ContainsVariable(from->GetVariable(i).GetVariableName()))
             return TRUE;
     return FALSE;
+}
+
+bool CGUIBaseDlg::CanAdd(const CRoleList& row) const
+{
+    if (!m_pSourceList)
+        return false;
+    CGUIListCtrl* target = m_listCtrls.at(row.list).get();
+    const bool typesAccepted = !row.acceptsStrings || row.acceptsStrings() ||
+                               !CGUIListCtrl::IsSelectetVariableTypePresent(m_pSourceList, NmsEnum::VT_STRING);
+    return EnableSourceToTarget(m_pSourceList, target, static_cast<int>(row.add)) && !m_pSourceList->IsBusy() &&
+           typesAccepted && (!row.enabled || row.enabled());
+}
+
+bool CGUIBaseDlg::CanRemove(const CRoleList& row) const
+{
+    if (!m_pSourceList)
+        return false;
+    CGUIListCtrl* target = m_listCtrls.at(row.list).get();
+    return EnableSourceToTarget(target, m_pSourceList, -1) && !target->IsBusy() && (!row.enabled || row.enabled()) &&
+           (!row.removeEnabled || row.removeEnabled());
+}
+
+void CGUIBaseDlg::UpdateDependentWindows()
+{
+    for (const auto& row : m_roleLists) {
+        EnableCtrl(row.add, CanAdd(row));
+        EnableCtrl(row.remove, CanRemove(row));
+    }
+}
+
+void CGUIBaseDlg::MoveRoleList(const CRoleList& row, bool add)
+{
+    CGUIListCtrl* target = &ListCtrl(row.list);
+    if (add)
+        MoveSourceToTarget(m_pSourceList, target, 0, 1, row.maxItems, 5);
+    else
+        MoveSourceToTarget(target, m_pSourceList, 1, 1, 0, 5);
+    if (row.afterMove)
+        row.afterMove();
+    UpdateDependentWindows();
+}
+
+BOOL CGUIBaseDlg::OnCmdMsg(UINT nMessage, int nCode, UINT nID, NMHDR* pNMHDR, LRESULT* pResult, CCmdUI* pCmdUI)
+{
+    // The role lists' buttons need no entry in any message map.
+    if (nMessage == WM_COMMAND && nCode == BN_CLICKED && m_pSourceList)
+        if (const CRoleList* row = FindRoleListByButton(nID)) {
+            MoveRoleList(*row, row->add == nID);
+            return TRUE;
+        }
+    return CDDXVDlg::OnCmdMsg(nMessage, nCode, nID, pNMHDR, pResult, pCmdUI);
 }
 
 void CGUIBaseDlg::RunButtonHandler(UINT buttonId)
@@ -344,24 +416,24 @@ void CGUIBaseDlg::RunButtonHandler(UINT buttonId)
 
 void CGUIBaseDlg::ListCtrlElementRemovalHelper(CGUIListCtrl* list)
 {
-    if (const TargetList* t = FindTarget(list))
-        RunButtonHandler(t->removeButton);
+    if (const CRoleList* row = FindRoleList(list))
+        RunButtonHandler(row->remove);
 }
 
 void CGUIBaseDlg::MoveSourceListToTargetListOnDblClk()
 {
-    // The first target list is the one a double click fills.
-    if (!m_targets.empty() && IsCtrlEnabled(m_targets.front().addButton)) {
-        RunButtonHandler(m_targets.front().addButton);
+    // The first role list is the one a double click fills.
+    if (!m_roleLists.empty() && IsCtrlEnabled(m_roleLists.front().add)) {
+        RunButtonHandler(m_roleLists.front().add);
         UpdateDependentWindows();
     }
 }
 
 void CGUIBaseDlg::MoveTargetListOnDblClk()
 {
-    for (const auto& t : m_targets) {
-        if (t.list->GetSelectedCount() > 0 && IsCtrlEnabled(t.removeButton)) {
-            RunButtonHandler(t.removeButton);
+    for (const auto& row : m_roleLists) {
+        if (ListCtrl(row.list).GetSelectedCount() > 0 && IsCtrlEnabled(row.remove)) {
+            RunButtonHandler(row.remove);
             UpdateDependentWindows();
             return;
         }
@@ -370,9 +442,9 @@ void CGUIBaseDlg::MoveTargetListOnDblClk()
 
 void CGUIBaseDlg::OnDblclkListCtrl(NMHDR* pNMHDR, LRESULT*)
 {
-    if (pNMHDR && pNMHDR->hwndFrom == m_pSourceList)
+    if (pNMHDR && m_pSourceList && pNMHDR->hwndFrom == m_pSourceList)
         MoveSourceListToTargetListOnDblClk();
-    else if (pNMHDR && FindTarget(pNMHDR->hwndFrom))
+    else if (pNMHDR && FindRoleList(pNMHDR->hwndFrom))
         MoveTargetListOnDblClk();
 }
 
@@ -385,7 +457,9 @@ void CGUIBaseDlg::OnItemchangedListCtrl(NMHDR*, LRESULT*)
 
 void CGUIBaseDlg::OnBegindrag(NMHDR* pNMHDR, LRESULT*)
 {
-    m_pDragList = pNMHDR ? dynamic_cast<CGUIListCtrl*>(pNMHDR->hwndFrom) : nullptr;
+    auto* list = pNMHDR ? dynamic_cast<CGUIListCtrl*>(pNMHDR->hwndFrom) : nullptr;
+    // Only the page's own variable lists take part in drags.
+    m_pDragList = list && (list == m_pSourceList || FindRoleList(list)) ? list : nullptr;
     SetCursor(CursorShape::Arrow);
 }
 
@@ -394,20 +468,28 @@ void CGUIBaseDlg::MouseMoveListCtrlHelper(const CWnd* over, HICON& cursor)
     if (!m_pDragList)
         return;
     if (m_pDragList == m_pSourceList) {
-        if (const TargetList* t = FindTarget(over); t && EnableSourceToTarget(m_pSourceList, t->list, static_cast<int>(t->addButton)))
+        if (const CRoleList* row = FindRoleList(over);
+            row && EnableSourceToTarget(m_pSourceList, &ListCtrl(row->list), static_cast<int>(row->add)))
             cursor = CursorShape::Drop;
         return;
     }
-    if (FindTarget(m_pDragList) && over != m_pDragList)
-        cursor = CursorShape::NoDrop;
+    // Dragging out of a target list takes the variables out of it.
+    if (over != m_pDragList)
+        cursor = CursorShape::Remove;
 }
 
 void CGUIBaseDlg::LButtonUpListCtrlHelper(const CWnd* over)
 {
-    if (m_pDragList != m_pSourceList || !m_pSourceList)
+    if (!m_pDragList)
         return;
-    if (const TargetList* t = FindTarget(over); t && EnableSourceToTarget(m_pSourceList, t->list, static_cast<int>(t->addButton)))
-        RunButtonHandler(t->addButton);
+    if (m_pDragList == m_pSourceList) {
+        if (const CRoleList* row = FindRoleList(over);
+            row && EnableSourceToTarget(m_pSourceList, &ListCtrl(row->list), static_cast<int>(row->add)))
+            RunButtonHandler(row->add);
+        return;
+    }
+    if (over != m_pDragList)
+        ListCtrlElementRemovalHelper(m_pDragList);
 }
 
 void CGUIBaseDlg::OnDragOver(CWnd* over)
@@ -430,6 +512,37 @@ void CGUIBaseDlg::OnDragRelease(CWnd* over)
 
 // --- Context menu ---------------------------------------------------------------
 
+void CGUIBaseDlg::CreateListCtrlMenu()
+{
+    if (!m_pSourceList)
+        return;
+    CArray<CMenuIdStr> entries;
+    for (const auto& row : m_roleLists)
+        if (row.menuCommand)
+            entries.Add({row.menuLabel ? GetDlgItemText(row.menuLabel) : CString(), row.menuCommand});
+    m_pSourceList->SetMenuIDArray(entries);
+}
+
+BOOL CGUIBaseDlg::OnAddTarget(UINT commandId)
+{
+    for (const auto& row : m_roleLists)
+        if (row.menuCommand == commandId && commandId != 0) {
+            MoveRoleList(row, true);
+            break;
+        }
+    return TRUE;
+}
+
+BOOL CGUIBaseDlg::OnUpdateAddTarget(CCmdUI* pCmdUI)
+{
+    // The menu tests movability only; the buttons' other conditions do not
+    // apply to it.
+    for (const auto& row : m_roleLists)
+        if (row.menuCommand == pCmdUI->m_nID && row.menuCommand != 0)
+            pCmdUI->Enable(EnableSourceToTarget(m_pSourceList, &ListCtrl(row.list), static_cast<int>(row.add)));
+    return TRUE;
+}
+
 void CGUIBaseDlg::OnContextMenu(CWnd* wnd)
 {
     auto* list = dynamic_cast<CGUIListCtrl*>(wnd);
@@ -450,7 +563,84 @@ void CGUIBaseDlg::OnContextMenu(CWnd* wnd)
         OnAddTarget(chosen);
 }
 
+// --- Data exchange of fields -----------------------------------------------------
+
+void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field, int& value)
+{
+    const CWnd* control = GetDlgItem(field.control);
+    switch (control ? control->GetKind() : ControlKind::CheckBox) {
+    case ControlKind::RadioButton: DDX_Radio(pDX, field.control, value); break;
+    case ControlKind::ComboBox: DDX_CBIndex(pDX, field.control, value); break;
+    case ControlKind::Edit: ::DDX_Text(pDX, field.control, value); break;
+    default: DDX_Check(pDX, field.control, value); break;
+    }
+}
+
+void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CString& value)
+{
+    CDDXVDlg::DDX_Text(pDX, field.control, value, 0, 0, 1, 0);
+    const CWnd* control = GetDlgItem(field.control);
+    if (control && control->GetKind() == ControlKind::FileEdit) {
+        // Files are the package's data files unless the user names another.
+        const bool open = (field.flags & kal::kFieldOpenFile) != 0;
+        DDX_FileEditCtrl(pDX, field.control, FileEditCtrl(field.control), value, open ? 0 : 1, open ? 0 : 1,
+                         open ? 1 : 0, u".kvd", u"", 0);
+    }
+}
+
+template <class T>
+void CGUIBaseDlg::ExchangeNumberField(CDataExchange* pDX, const CFieldExchange& field, CGUIData<T>& value,
+                                      UINT parseMessage)
+{
+    DDX_KVText(pDX, field.control, value, parseMessage);
+    if (!pDX->m_bSaveAndValidate || field.rangeMessage == 0 || !IsCtrlEnabled(field.control))
+        return;
+    const double v = static_cast<double>(value.m_Value);
+    if (v < field.min || v > field.max) {
+        pDX->m_idLastControl = field.control;
+        AfxMessageBox(field.rangeMessage);
+        pDX->Fail();
+    }
+}
+
+void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIData<int>& value)
+{
+    ExchangeNumberField(pDX, field, value, AFX_IDP_PARSE_INT);
+}
+
+void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIData<unsigned int>& value)
+{
+    ExchangeNumberField(pDX, field, value, AFX_IDP_PARSE_INT);
+}
+
+void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIData<double>& value)
+{
+    ExchangeNumberField(pDX, field, value, AFX_IDP_PARSE_REAL);
+}
+
+void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIDataWnd<int>& value)
+{
+    DDX_CheckState(pDX, field.control, value);
+}
+
+void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIArray<CGUIDataVariable>& value)
+{
+    DDX_Control(pDX, field.control, ListCtrl(field.control));
+    DDX_ListCtrlArray(pDX, field.control, value, 0, 1, 0);
+}
+
 // --- Tab pages ------------------------------------------------------------------
+
+CGUITabDlg* CGUIBaseDlg::GetTabDlg() const
+{
+    return dynamic_cast<CGUITabDlg*>(GetParent());
+}
+
+void CGUIBaseDlg::NotifyTab()
+{
+    if (CGUITabDlg* tab = GetTabDlg())
+        tab->OnPageChanged(this);
+}
 
 void CGUIBaseDlg::OnSelchangeTab(NMHDR*, LRESULT*)
 {

@@ -5,22 +5,60 @@
 // and drop between them, the source list's context menu, tool tips, combo
 // filling and reset.
 //
-// A dialog registers its lists once (SetSourceList, AddTargetList); every
-// move, enable test, drag, drop, double click and menu entry works from
-// that table.
+// A page declares its lists once as data: the source list and one CRoleList
+// row per target list. The buttons, drags, double clicks, the context menu
+// and the buttons' enable rule all work from those rows; the page keeps only
+// the rules that are its own.
 #pragma once
 
 #include "framework/DDXVDlg.h"
+#include "framework/FileEditCtrl.h"
 #include "framework/GUIBaseObj.h"
 #include "framework/GUIListCtrl.h"
 #include "platform/Cursor.h"
 
 #include <array>
+#include <functional>
+#include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
 class CGUITabCtrl;
+class CGUITabDlg;
 class CMultiListInfo;
+
+// One target list of a page: its buttons, its context-menu entry and the
+// conditions of its moves. Every move in or out runs afterMove (if any) and
+// then the page's enable rules.
+struct CRoleList {
+    UINT list = 0;
+    UINT add = 0;
+    UINT remove = 0;
+    // Its entry in the source list's context menu (0: none), captioned with
+    // the text of the control menuLabel (the list's label).
+    UINT menuCommand = 0;
+    UINT menuLabel = 0;
+    // Whether selected string variables may be added by the button now
+    // (null: yes). Drags and the menu test movability only.
+    std::function<bool()> acceptsStrings = {};
+    // Further conditions of both buttons, and of the remove button alone
+    // (null: none).
+    std::function<bool()> enabled = {};
+    std::function<bool()> removeEnabled = {};
+    std::function<void()> afterMove = {};
+    // At most this many variables (0: no limit).
+    int maxItems = 0;
+};
+
+// What the data exchange of one field needs to know (see kal::Field).
+struct CFieldExchange {
+    UINT control = 0;
+    unsigned flags = 0;
+    double min = 0;
+    double max = 0;
+    UINT rangeMessage = 0; // 0: any value
+};
 
 class CGUIBaseDlg : public CDDXVDlg {
     DECLARE_DYNAMIC(CGUIBaseDlg)
@@ -56,8 +94,12 @@ public:
     virtual void EnableWindowSetOne(int enable);
     virtual void ShowChildWindows(long show);
     virtual void SetInitialDlgAndObj(long flags);
+    // The enable rules; the base's runs the role-list buttons, so a page
+    // that has rules of its own calls it first.
     virtual void UpdateDependentWindows();
 
+    // The source list's context menu: a row's entry moves to its list; an
+    // entry is enabled while that move is possible.
     virtual BOOL OnAddTarget(UINT commandId);
     virtual BOOL OnUpdateAddTarget(CCmdUI* pCmdUI);
     virtual void OnSetDefault(CMultiListInfo* info, CString& text);
@@ -113,12 +155,24 @@ public:
     // the move in the dialog's table (its limit), -1 for none.
     BOOL EnableSourceToTarget(CGUIListCtrl* from, CGUIListCtrl* to, int buttonId) const;
 
-    void SetSourceList(CGUIListCtrl* source) { m_pSourceList = source; }
-    void AddTargetList(CGUIListCtrl* target, UINT addButton, UINT removeButton, int nMax = 0);
+    // The page's variable lists, declared once in its constructor.
+    void SetSourceList(UINT listId);
+    void AddRoleList(CRoleList row);
+    // The list control `listId` of this page (made on first use).
+    CGUIListCtrl& ListCtrl(UINT listId);
+    CGUIListCtrl* GetSourceList() const { return m_pSourceList; }
+    // Runs the move of a row as its add or remove button does.
+    void MoveRoleList(const CRoleList& row, bool add);
 
     void OnBegindrag(NMHDR* pNMHDR, LRESULT* pResult);
     bool IsDragging() const { return m_pDragList != nullptr; }
     CGUIListCtrl* GetDragList() const { return m_pDragList; }
+
+    // The tab dialog this page sits in, or null.
+    CGUITabDlg* GetTabDlg() const;
+    // A page that changed something its siblings depend on tells its tab
+    // dialog, which runs their enable rules again.
+    void NotifyTab();
 
     CComboBox* GetComboBoxWnd(UINT id) const;
     int GetComboCurSel(UINT id) const;
@@ -131,6 +185,9 @@ public:
     CString GetDlgCaption() const { return GetWindowText(); }
     // Set when the user confirmed: the analysis is to be run.
     bool IsRunFlagSet() const { return m_bRun; }
+    // The owner context the host gave the dialog (launch step 3).
+    void SetOwnerContext(void* context) { m_pOwnerContext = context; }
+    void* GetOwnerContext() const { return m_pOwnerContext; }
 
     // Assertion report naming this dialog's source.
     void ReportAssertion(int line) const;
@@ -144,21 +201,37 @@ public:
     BOOL OnInitDialog() override;
     void OnOK() override;
     void OnCancel() override;
+    BOOL OnCmdMsg(UINT nMessage, int nCode, UINT nID, NMHDR* pNMHDR = nullptr, LRESULT* pResult = nullptr,
+                  CCmdUI* pCmdUI = nullptr) override;
 
 protected:
-    struct TargetList {
-        CGUIListCtrl* list;
-        UINT addButton;
-        UINT removeButton;
-        int nMax;
-    };
-    const TargetList* FindTarget(const CWnd* list) const;
-    const TargetList* FindTargetByButton(UINT buttonId) const;
-    CGUIListCtrl* GetSourceList() const { return m_pSourceList; }
-    const std::vector<TargetList>& GetTargetLists() const { return m_targets; }
+    const CRoleList* FindRoleList(const CWnd* list) const;
+    const CRoleList* FindRoleListByButton(UINT buttonId) const;
+    const std::vector<CRoleList>& GetRoleLists() const { return m_roleLists; }
+    // The role-list rule of the buttons: movable, the list not busy, the
+    // selection's types accepted, the row's own conditions.
+    bool CanAdd(const CRoleList& row) const;
+    bool CanRemove(const CRoleList& row) const;
     // Runs the handler bound to a button, as a click would.
     void RunButtonHandler(UINT buttonId);
     void SetRunFlag(bool run) { m_bRun = run; }
+    // Called when the settings object changes (a tab dialog hands its pages
+    // their parts here).
+    virtual void OnDataSet() {}
+
+    // Data exchange of one field by the kind of its control: check boxes,
+    // radio groups and combo boxes hold an index, edits a number or a text,
+    // file edits a file name, lists their variables. Range checks apply
+    // while the control is enabled.
+    void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, int& value);
+    void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CString& value);
+    void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIData<int>& value);
+    void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIData<unsigned int>& value);
+    void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIData<double>& value);
+    void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIDataWnd<int>& value);
+    void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIArray<CGUIDataVariable>& value);
+    // The file edit control `id` of this page (made on first use).
+    CFileEditCtrl& FileEditCtrl(UINT id);
 
     void OnDblclkListCtrl(NMHDR* pNMHDR, LRESULT* pResult);
     void OnSelchangeTab(NMHDR* pNMHDR, LRESULT* pResult);
@@ -168,11 +241,18 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void CreateListCtrlMenu();
+    template <class T>
+    void ExchangeNumberField(CDataExchange* pDX, const CFieldExchange& field, CGUIData<T>& value, UINT parseMessage);
+
+    std::map<UINT, std::unique_ptr<CGUIListCtrl>> m_listCtrls;
+    std::map<UINT, std::unique_ptr<CFileEditCtrl>> m_fileEditCtrls;
     CGUIListCtrl* m_pSourceList = nullptr;
-    std::vector<TargetList> m_targets;
+    std::vector<CRoleList> m_roleLists;
     CGUIListCtrl* m_pDragList = nullptr;
     UINT m_nCaptionID = 0;
     bool m_bRun = false;
+    void* m_pOwnerContext = nullptr;
 };
 
 // The reset button every page may carry.

@@ -18,6 +18,27 @@ bool IsDigit(char16_t ch)
     return ch >= u'0' && ch <= u'9';
 }
 
+// A text as a report shows it: control characters as escapes, so that the
+// report stays one line.
+std::string Shown(const CString& text)
+{
+    static constexpr char kHex[] = "0123456789ABCDEF";
+    CString visible;
+    for (const char16_t ch : text.Str()) {
+        if (ch == u'\n')
+            visible += u"\\n";
+        else if (ch == u'\r')
+            visible += u"\\r";
+        else if (ch == u'\t')
+            visible += u"\\t";
+        else if (ch < 0x20 || ch == 0x7F)
+            visible += CString(u"\\x") + CString(char16_t(kHex[ch >> 4])) + CString(char16_t(kHex[ch & 0xF]));
+        else
+            visible += ch;
+    }
+    return visible.ToUtf8();
+}
+
 } // namespace
 
 void CGUIBaseObj::Serialize(CArchive&)
@@ -283,7 +304,9 @@ void CGUIBaseObj::AddVariables(CString& line, const CGUIArray<CGUIDataVariable>&
             continue; // an entry whose name was not stored names no variable
         if (ContainsControlCharacter(name)) {
             // Such a name could start a second command line: leave it out.
-            CKalAssertDlg("framework/GUIBaseObj", __LINE__).DoPrint();
+            CKalAssertDlg("framework/GUIBaseObj", __LINE__,
+                          "the variable \"" + Shown(name) + "\" holds a control character and is left out")
+                .DoPrint();
             continue;
         }
         if (!first)

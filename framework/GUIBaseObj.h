@@ -102,6 +102,30 @@ public:
         return condition ? NumberText(value.m_Value) : CString();
     }
 
+    // The changed-value rule: a clause tied to `value` is written when the
+    // value no longer holds its default (state flag 0), or when the host asks
+    // for every option and the value's first flag is 0.
+    template <class T>
+    int IsToBeWritten(const CGUIData<T>& value) const
+    {
+        return value.IsToBeWritten(kal::framework::WriteEveryOption()) ? 1 : 0;
+    }
+    // The state query of a holder: its state flag, read as 0 while the host
+    // asks for every option and the first flag is 0; the opposite of
+    // IsToBeWritten.
+    template <class T>
+    int GetValueState(const CGUIData<T>& value) const
+    {
+        return IsToBeWritten(value) ? 0 : 1;
+    }
+    // Keyword and value under the changed-value rule.
+    template <class T>
+    CString AddChangedValueCmd(const CString& keyword, const CGUIData<T>& value) const
+    {
+        const int write = IsToBeWritten(value);
+        return AddOnConditionCmd(keyword, write) + AddOnConditionCmd(value, write);
+    }
+
     // Keyword and value, whenever bCondition is set.
     template <class T>
     CString AddEditValueCmd(const CGUIData<T>& value, const CString& keyword, int bCondition) const

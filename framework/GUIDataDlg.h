@@ -13,16 +13,12 @@ public:
     void SetData(TData* data)
     {
         m_pData = data;
-        OnDataSet();
+        this->OnDataSet();
     }
     void GetData(TData*& data) const { data = m_pData; }
     void SetData(CGUIBaseObj* data) override { SetData(dynamic_cast<TData*>(data)); }
     void GetData(CGUIBaseObj*& data) override { data = m_pData; }
 
 protected:
-    // Called when the settings object changes (a tab dialog hands its pages
-    // their parts here).
-    virtual void OnDataSet() {}
-
     TData* m_pData = nullptr;
 };

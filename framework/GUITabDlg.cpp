@@ -1,5 +1,6 @@
 #include "framework/GUITabDlg.h"
 
+#include "framework/GUITabData.h"
 #include "host/IGlobal.h"
 
 IMPLEMENT_DYNAMIC(CGUITabDlg, CGUIBaseDlg)
@@ -19,15 +20,39 @@ int CGUITabDlg::KVUpdateData(int bSaveAndValidate)
 {
     if (!CGUIBaseDlg::KVUpdateData(bSaveAndValidate))
         return 0;
-    for (CGUIBaseDlg* page : m_pages) {
+    for (std::size_t i = 0; i < m_pages.size(); ++i) {
+        CGUIBaseDlg* page = m_pages[i];
         if (bSaveAndValidate) {
-            if (!page->OKLike())
+            if (!page->OKLike()) {
+                // The user sees the page whose entry was refused.
+                if (m_TabCtrl.IsCreated())
+                    m_TabCtrl.SelectPage(static_cast<int>(i));
                 return 0;
+            }
         } else if (page->IsCreated()) {
             page->InitDialogLike();
         }
     }
     return 1;
+}
+
+void CGUITabDlg::OnDataSet()
+{
+    CGUIBaseObj* data = nullptr;
+    GetData(data);
+    auto* tab = dynamic_cast<CGUITabData*>(data);
+    const CGUITabData::PageList settings = tab ? tab->Pages() : CGUITabData::PageList{};
+    for (std::size_t i = 0; i < m_pages.size(); ++i)
+        m_pages[i]->SetData(i < settings.size() ? settings[i] : nullptr);
+}
+
+void CGUITabDlg::OnPageChanged(CGUIBaseDlg* page)
+{
+    for (CGUIBaseDlg* other : m_pages)
+        if (other != page && other->IsCreated())
+            other->UpdateDependentWindows();
+    if (m_TabCtrl.IsCreated())
+        m_TabCtrl.UpdatePageStates();
 }
 
 void CGUITabDlg::SetCaptionIDs(const std::array<UINT, 4>& captionIds)

@@ -2,6 +2,23 @@
 
 #include "host/KalAssertDlg.h"
 
+int CStringUtil::FindOutsideQuotes(const CString& line, const CString& text, int start)
+{
+    const std::u16string_view view = line.Str();
+    const std::u16string_view wanted = text.Str();
+    if (wanted.empty())
+        return start <= static_cast<int>(view.size()) ? start : -1;
+    bool quoted = false;
+    for (std::size_t i = 0; i < view.size(); ++i) {
+        if (!quoted && static_cast<int>(i) >= start && view.substr(i, wanted.size()) == wanted)
+            return static_cast<int>(i);
+        // A doubled quote inside a name closes and reopens it: still inside.
+        if (view[i] == u'\'')
+            quoted = !quoted;
+    }
+    return -1;
+}
+
 int CStringUtil::Resolve(const CLIST<CCmdInfo>& list, int index)
 {
     if (index == -1)
@@ -13,7 +30,7 @@ int CStringUtil::SearchString(const CLIST<CCmdInfo>& list, const CString& text)
 {
     int index = 0;
     for (const auto& line : list) {
-        if (line.m_strCommand.Find(text) >= 0)
+        if (FindOutsideQuotes(line.m_strCommand, text) >= 0)
             return index;
         ++index;
     }
@@ -34,7 +51,7 @@ int CStringUtil::SearchStringAtBeginning(const CLIST<CCmdInfo>& list, const CStr
 bool CStringUtil::StringFoundAtIndex(const CLIST<CCmdInfo>& list, const CString& text, int index)
 {
     index = Resolve(list, index);
-    return index >= 0 && list.GetAt(index).m_strCommand.Find(text) >= 0;
+    return index >= 0 && FindOutsideQuotes(list.GetAt(index).m_strCommand, text) >= 0;
 }
 
 void CStringUtil::ReplaceStringAt(CLIST<CCmdInfo>& list, int index, const CString& oldText, const CString& newText)
@@ -47,7 +64,7 @@ void CStringUtil::ReplaceStringAt(CLIST<CCmdInfo>& list, int index, const CStrin
         return;
     }
     CString& line = list.GetAt(index).m_strCommand;
-    const int at = line.Find(oldText);
+    const int at = FindOutsideQuotes(line, oldText);
     if (at >= 0)
         line = line.Left(at) + newText + line.Mid(at + oldText.GetLength());
 }
@@ -88,13 +105,17 @@ void CStringUtil::RemoveRedundantSlash(CLIST<CCmdInfo>& list, int index)
         return;
     CString& line = list.GetAt(index).m_strCommand;
     const auto& text = line.Str();
+    const auto slashAfter = [&](std::size_t from) {
+        const int at = FindOutsideQuotes(line, u"/", static_cast<int>(from));
+        return at < 0 ? std::u16string::npos : static_cast<std::size_t>(at);
+    };
     std::u16string result;
-    std::size_t start = text.find(u'/');
+    std::size_t start = slashAfter(0);
     if (start == std::u16string::npos)
         return;
     result.assign(text, 0, start);
     while (start != std::u16string::npos) {
-        const std::size_t next = text.find(u'/', start + 1);
+        const std::size_t next = slashAfter(start + 1);
         const std::u16string_view segment(text.data() + start + 1,
                                           (next == std::u16string::npos ? text.size() : next) - start - 1);
         if (segment.find_first_not_of(u" \t") != std::u16string_view::npos) {

@@ -1,6 +1,9 @@
 // CStringUtil: finding and editing lines of a command list, and small text
 // helpers. Index -1 names the last line. Edits that would put a control
 // character into a line are refused with an assertion report.
+//
+// Searches look outside quoted names only: a variable called 'a/b' holds no
+// option separator and 'MODEL x' no keyword.
 #pragma once
 
 #include "framework/CmdInfo.h"
@@ -36,6 +39,10 @@ public:
     static void Trim(CString& text, TRIMSTR side);
     static bool IsEmpty(const CString& text) { return text.IsEmpty(); }
     static void GetStringLines(const CString& text, CStringArray& lines);
+
+    // Where `text` first occurs in `line` at or after `start` outside single
+    // quotes, or -1.
+    static int FindOutsideQuotes(const CString& line, const CString& text, int start = 0);
 
 private:
     // Resolves -1 to the last line; -1 again when the index names no line.

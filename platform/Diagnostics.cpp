@@ -15,13 +15,13 @@ AssertionSink& Sink()
 
 } // namespace
 
-void ReportAssertion(const std::string& file, int line)
+void ReportAssertion(const std::string& file, int line, const std::string& detail)
 {
     if (const auto& sink = Sink()) {
         sink(file, line);
         return;
     }
-    std::cerr << "assertion: " << file << " line " << line << std::endl;
+    std::cerr << "assertion: " << file << " line " << line << (detail.empty() ? "" : ": ") << detail << std::endl;
 }
 
 AssertionSink SetAssertionSink(AssertionSink sink)

@@ -10,7 +10,9 @@ namespace kal {
 
 using AssertionSink = std::function<void(const std::string& file, int line)>;
 
-void ReportAssertion(const std::string& file, int line);
+// `detail` says what was wrong, for the reader of the default report
+// ("assertion: <file> line <n>: <detail>"); sinks get the place only.
+void ReportAssertion(const std::string& file, int line, const std::string& detail = {});
 
 // Installs a sink and returns the one it replaces; an empty sink restores
 // the default.

@@ -109,6 +109,7 @@ bool CDialog::CreateControls()
     m_bVisible = true;
     m_bEnded = false;
     m_nResult = 0;
+    m_pFocus = nullptr;
     for (const auto& t : m_template->controls) {
         auto control = MakeControl(t.kind);
         control->InitFromTemplate(t, this);
@@ -153,6 +154,7 @@ BOOL CDialog::CreateChild(CWnd* parent)
 
 void CDialog::DestroyWindow()
 {
+    m_pFocus = nullptr;
     for (CWnd* child : m_children)
         child->Detach();
     Detach();
@@ -187,6 +189,9 @@ BOOL CDialog::UpdateData(BOOL bSaveAndValidate)
     try {
         DoDataExchange(&dx);
     } catch (const CUserException&) {
+        // The user is to correct the entry that was refused.
+        if (CWnd* control = dx.m_idLastControl ? GetDlgItem(dx.m_idLastControl) : nullptr)
+            control->SetFocus();
         return FALSE;
     }
     return TRUE;

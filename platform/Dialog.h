@@ -36,7 +36,12 @@ public:
     bool IsRunning() const { return m_bModal && !m_bEnded; }
     int GetModalResult() const { return m_nResult; }
 
+    // Runs the data exchange; a refused entry leaves the focus on its
+    // control and FALSE.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
+    // The control last given the focus in this dialog or its pages (null
+    // for none).
+    CWnd* GetFocusCtrl() const { return m_pFocus; }
     virtual void DoDataExchange(CDataExchange* pDX);
 
     void CheckDlgButton(UINT id, UINT check);
@@ -66,6 +71,8 @@ protected:
     bool CreateControls();
 
 private:
+    friend class CWnd; // SetFocus records itself here
+    CWnd* m_pFocus = nullptr;
     UINT m_nTemplateID;
     std::shared_ptr<const DialogTemplate> m_template;
     std::vector<std::unique_ptr<CWnd>> m_owned;

@@ -214,6 +214,14 @@ INT_PTR CHeadlessDriver::RunModal(CDialog& dialog)
     return dialog.GetModalResult();
 }
 
+INT_PTR CConfirmDriver::RunModal(CDialog& dialog)
+{
+    dialog.OnCmdMsg(WM_COMMAND, BN_CLICKED, static_cast<UINT>(IDOK));
+    if (dialog.IsRunning())
+        dialog.EndDialog(IDCANCEL);
+    return dialog.GetModalResult();
+}
+
 UINT CHeadlessDriver::TrackPopupMenu(CWnd&, const CMenu& menu)
 {
     return m_menus.Choose(menu);

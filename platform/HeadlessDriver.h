@@ -83,6 +83,15 @@ private:
     HCURSOR m_lastDragCursor = CursorShape::Arrow;
 };
 
+// Runs a dialog as a user who presses OK at once would: what the dialog
+// shows for its settings goes back through its OK path. A dialog that
+// refuses the OK ends left open (IDCANCEL).
+class CConfirmDriver : public CDialogDriver {
+public:
+    INT_PTR RunModal(CDialog& dialog) override;
+    UINT TrackPopupMenu(CWnd&, const CMenu&) override { return 0; }
+};
+
 class CHeadlessDriver : public CDialogDriver {
 public:
     using Script = std::function<void(CHeadlessSession&)>;

@@ -1,5 +1,7 @@
 #include "platform/Wnd.h"
 
+#include "platform/Dialog.h"
+
 #include <algorithm>
 
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
@@ -56,6 +58,16 @@ void CWnd::Invalidate(BOOL)
 {
     OnInvalidated();
     Changed(WndAspect::Invalidated);
+}
+
+void CWnd::SetFocus()
+{
+    for (CWnd* w = m_pParent; w; w = w->m_pParent)
+        if (auto* dialog = dynamic_cast<CDialog*>(w); dialog && !dialog->GetParent()) {
+            dialog->m_pFocus = this;
+            break;
+        }
+    Changed(WndAspect::Focus);
 }
 
 void CWnd::SetToolTipText(const CString& text)

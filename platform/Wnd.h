@@ -30,6 +30,7 @@ enum class WndAspect {
     ToolTip,
     Pages,      // tab pages
     Invalidated,
+    Focus,      // the window was given the keyboard focus
 };
 
 // A driver's window for one model window.
@@ -70,6 +71,9 @@ public:
     void SetWindowText(const CString& text);
     CString GetWindowText() const { return m_strText; }
     void Invalidate(BOOL erase = TRUE);
+    // Gives this window the keyboard focus: its dialog remembers it, a view
+    // moves the focus there.
+    void SetFocus();
 
     void SetToolTipText(const CString& text);
     const CString& GetToolTipText() const { return m_strToolTip; }

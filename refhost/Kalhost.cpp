@@ -80,6 +80,19 @@ std::vector<ScriptLine> ParseScriptFile(const std::string& file)
     }
 }
 
+// A character that can stand between the digits of a number in a command
+// line without being read as something else: not a digit, letter, blank,
+// quote or control character, and none of the signs of names, clauses and
+// model terms.
+bool IsDecimalSeparator(char16_t c)
+{
+    if (c < 0x21 || c > 0x7E)
+        return false; // blanks, control characters, and letters of other scripts
+    if ((c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'))
+        return false;
+    return std::u16string_view(u"'\"/=;+-*()&$_#").find(c) == std::u16string_view::npos;
+}
+
 // The handler class the menu bar gives command `id` to, or empty.
 std::string HandlerOf(const std::vector<MenuNode>& nodes, UINT id)
 {
@@ -152,8 +165,9 @@ private:
         p.matrixData = m_options.matrix;
         if (!m_options.decimal.empty()) {
             const CString separator = CString::FromUtf8(m_options.decimal);
-            if (separator.GetLength() != 1 || ContainsControlCharacter(separator))
-                throw UsageError("--decimal takes one character, not \"" + m_options.decimal + "\"");
+            if (separator.GetLength() != 1 || !IsDecimalSeparator(separator[0]))
+                throw UsageError("--decimal takes one punctuation character that the command language does not "
+                                 "use otherwise (such as , or .), not \"" + m_options.decimal + "\"");
             p.decimalSeparator = separator[0];
         }
         if (!m_options.moduleState.empty())
@@ -319,25 +333,20 @@ int PrintCommands(Session& session, UINT id)
         session.Host().ReportMessage(100190500, 0);
         return kExitDialogNotConfirmed;
     }
-    CGUIBaseObj* settings = session.Host().Store().Get(id);
-    std::unique_ptr<CObject> fresh;
-    if (!settings) {
-        // Nothing stored yet: the lines of the defaults.
-        const CRuntimeClass* runtimeClass = CRuntimeClass::FromName(row->settingsClass.c_str());
-        fresh.reset(runtimeClass ? runtimeClass->CreateObject() : nullptr);
-        settings = dynamic_cast<CGUIBaseObj*>(fresh.get());
-        if (!settings)
-            throw UsageError(row->settingsClass + " cannot be created");
-    }
+    // What pressing OK at once would write for what is stored (the defaults
+    // when nothing is).
     CLIST<CCmdInfo> lines;
-    settings->GetCommandInfoList(lines);
+    if (!session.Module().ConfirmedLines(id, session.Host().Store().Get(id), lines)) {
+        std::cerr << "kalhost: the dialog of command " << id << " does not accept the stored settings" << std::endl;
+        return kExitDialogNotConfirmed;
+    }
     for (const auto& line : lines)
         session.Host().ExecuteLine(line.m_strCommand);
     std::cout.flush();
     return kExitDone;
 }
 
-int DumpStore(const std::string& file)
+int DumpStore(Session& session, const std::string& file)
 {
     const auto entries = ReadStoreFile(file);
     std::cout << file << ": " << entries.size() << (entries.size() == 1 ? " entry" : " entries") << '\n';
@@ -350,11 +359,16 @@ int DumpStore(const std::string& file)
                 continue;
             }
             CLIST<CCmdInfo> lines;
-            settings->GetCommandInfoList(lines);
+            if (!session.Module().ConfirmedLines(entry.id, settings.get(), lines)) {
+                std::cout << "  (no dialog of this module confirms it; the lines as stored:)\n";
+                settings->GetCommandInfoList(lines);
+            }
             for (const auto& line : lines)
                 std::cout << "  " << line.m_strCommand.ToUtf8() << '\n';
         } catch (const StoreError& e) {
             std::cout << "  (unreadable: " << e.what() << ")\n";
+        } catch (const CException& e) {
+            std::cout << "  (its lines cannot be written: " << e.what() << ")\n";
         }
     }
     return kExitDone;
@@ -413,7 +427,7 @@ int Run(int argc, char** argv)
             plain.dataFile.clear();
             plain.categorical.clear();
             Session session(plain);
-            return DumpStore(options.dumpFile);
+            return DumpStore(session, options.dumpFile);
         }
         Session session(options);
         int status = kExitDone;

@@ -14,7 +14,7 @@
 
 namespace kalhost {
 
-LoadedModule::LoadedModule(const std::filesystem::path& library, IGlobal* global)
+LoadedModule::LoadedModule(const std::filesystem::path& library, IGlobal* global) : m_global(global)
 {
     m_library = dlopen(library.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!m_library)
@@ -74,6 +74,17 @@ std::vector<MenuCommand> LoadedModule::Commands()
                                 row.IsAvailable()});
     }
     return commands;
+}
+
+bool LoadedModule::ConfirmedLines(UINT id, const CGUIBaseObj* stored, CLIST<CCmdInfo>& lines)
+{
+    // Only what the headers define inline is used here: the code is the
+    // module's.
+    for (CMenuGroupMsg* handler : HandlersOf(m_module))
+        for (const auto& row : handler ? handler->Rows() : std::span<const MenuCommandRow>())
+            if (row.id == id && row.confirm)
+                return row.confirm(m_global, id, row, stored, lines);
+    return false;
 }
 
 IKVMsg* LoadedModule::Handler(const std::string& className)

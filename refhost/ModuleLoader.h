@@ -9,6 +9,7 @@
 #pragma once
 
 #include "Source/IDlgStat2.h"
+#include "framework/CmdInfo.h"
 #include "platform/Types.h"
 
 #include <filesystem>
@@ -16,6 +17,7 @@
 #include <string>
 #include <vector>
 
+class CGUIBaseObj;
 class IKVMsg;
 
 namespace kalhost {
@@ -47,11 +49,16 @@ public:
     std::vector<MenuCommand> Commands();
     // The handler of that class name, or null.
     IKVMsg* Handler(const std::string& className);
+    // The lines that pressing OK at once in the dialog of command `id` writes
+    // for `stored` (null: the defaults), as the launch routine wires it;
+    // false when the command has no dialog here or the dialog refuses.
+    bool ConfirmedLines(UINT id, const CGUIBaseObj* stored, CLIST<CCmdInfo>& lines);
     // Releases the module object; the library stays loaded until destruction.
     void ReleaseModule();
 
 private:
     void* m_library = nullptr;
+    IGlobal* m_global = nullptr;
     IDlgStat2* m_module = nullptr;
 };
 

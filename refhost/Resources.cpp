@@ -33,6 +33,14 @@ UINT ParseId(const std::string& key, const std::string& where)
     return static_cast<UINT>(value);
 }
 
+// Resources are split over several files; an id may be defined once only.
+template <class Map, class Key, class Value>
+void AddOnce(Map& map, const Key& key, Value&& value, const std::string& where)
+{
+    if (!map.emplace(key, std::forward<Value>(value)).second)
+        throw ResourceError(where + ": defined twice");
+}
+
 CString Text(const json& value, const std::string& where)
 {
     if (!value.is_string())
@@ -176,10 +184,12 @@ void ResourceTable::AddFile(const std::string& fileName, std::string_view text)
     try {
         if (doc.contains("strings"))
             for (const auto& [key, value] : doc["strings"].items())
-                m_strings[ParseId(key, fileName)] = Text(value, fileName + " string " + key);
+                AddOnce(m_strings, ParseId(key, fileName), Text(value, fileName + " string " + key),
+                        fileName + " string " + key);
         if (doc.contains("messages"))
             for (const auto& [key, value] : doc["messages"].items())
-                m_messages[ParseId(key, fileName)] = Text(value, fileName + " message " + key);
+                AddOnce(m_messages, ParseId(key, fileName), Text(value, fileName + " message " + key),
+                        fileName + " message " + key);
         if (doc.contains("combos")) {
             for (const auto& combo : doc["combos"]) {
                 const UINT comboId = static_cast<UINT>(Int(combo.at("combo"), fileName));
@@ -192,7 +202,8 @@ void ResourceTable::AddFile(const std::string& fileName, std::string_view text)
                     else
                         entries.push_back({Text(e, where), 0});
                 }
-                m_combos[{comboId, dialogId}] = std::move(entries);
+                AddOnce(m_combos, std::make_pair(comboId, dialogId), std::move(entries),
+                        where + " for dialog " + std::to_string(dialogId));
             }
         }
         if (doc.contains("radios")) {
@@ -200,13 +211,14 @@ void ResourceTable::AddFile(const std::string& fileName, std::string_view text)
                 std::vector<UINT> buttons;
                 for (const auto& id : value)
                     buttons.push_back(static_cast<UINT>(Int(id, fileName + " radio group " + key)));
-                m_radios[ParseId(key, fileName)] = std::move(buttons);
+                AddOnce(m_radios, ParseId(key, fileName), std::move(buttons), fileName + " radio group " + key);
             }
         }
         if (doc.contains("dialogs")) {
             for (const auto& d : doc["dialogs"]) {
                 auto t = std::make_shared<DialogTemplate>(ParseDialog(d, fileName));
-                m_dialogs[t->id] = std::move(t);
+                const UINT id = t->id;
+                AddOnce(m_dialogs, id, std::move(t), fileName + " dialog " + std::to_string(id));
             }
         }
         if (doc.contains("menus"))

@@ -5,7 +5,9 @@
 // "COVAR ", an optional save line and "ESTIMATE ".
 #pragma once
 
+#include "framework/Fields.h"
 #include "framework/GUIBaseObj.h"
+#include "ids/anova.h"
 
 class CAnovaData : public CGUIBaseObj {
     DECLARE_SERIAL(CAnovaData)
@@ -17,9 +19,7 @@ public:
     static constexpr UINT kSaveListMultiple = 8010;
     static constexpr UINT kModuleAnova = 12894;
 
-    CAnovaData();
-    CAnovaData(const CAnovaData&) = default;
-    CAnovaData& operator=(const CAnovaData&) = default;
+    CAnovaData() { kal::ResetFields(*this); }
 
     static int GetDefaultMissingValCheck() { return 0; }
     static int GetDefaultPostHocTestCheck() { return 0; }
@@ -32,13 +32,21 @@ public:
     int GetAll(CGUIArray<CGUIDataVariable>& source, CGUIArray<CGUIDataVariable>& dependent,
                CGUIArray<CGUIDataVariable>& factor, CGUIArray<CGUIDataVariable>& covariate, int& missingValCheck,
                int& postHocTestCheck, int& saveFileCheck, int& postHocTestCombo, int& saveFileCombo,
-               CString& saveFileEdit) const;
+               CString& saveFileEdit) const
+    {
+        return kal::CopyFieldsOut(*this, source, dependent, factor, covariate, missingValCheck, postHocTestCheck,
+                                  saveFileCheck, postHocTestCombo, saveFileCombo, saveFileEdit);
+    }
     // The settings-from-output-node form stays visible beside this one.
     using CGUIBaseObj::SetAll;
     int SetAll(const CGUIArray<CGUIDataVariable>& source, const CGUIArray<CGUIDataVariable>& dependent,
                const CGUIArray<CGUIDataVariable>& factor, const CGUIArray<CGUIDataVariable>& covariate,
                int missingValCheck, int postHocTestCheck, int saveFileCheck, int postHocTestCombo, int saveFileCombo,
-               const CString& saveFileEdit);
+               const CString& saveFileEdit)
+    {
+        return kal::CopyFieldsIn(*this, source, dependent, factor, covariate, missingValCheck, postHocTestCheck,
+                                 saveFileCheck, postHocTestCombo, saveFileCombo, saveFileEdit);
+    }
 
     int GetDependentVariableListCount() const { return m_DependentList.GetSize(); }
     CGUIArray<CGUIDataVariable> GetFactorList() const { return m_FactorList; }
@@ -51,6 +59,27 @@ public:
     void GetCommandInfoList(CLIST<CCmdInfo>& list) const override;
     void FillListSource() override;
     void Serialize(CArchive& ar) override;
+
+    // The members in order, the controls of the model page (template 2006)
+    // that show them, and their defaults. The post hoc flag and index have
+    // no control: the page keeps them as they are.
+    static constexpr auto Fields()
+    {
+        using F = kal::FieldsOf<CAnovaData>;
+        using Ids = CAnovaDlgIds;
+        return std::tuple{
+            F::Source(&CAnovaData::m_SourceList, Ids::IDC_SOURCE_LIST),
+            F::List(&CAnovaData::m_DependentList, Ids::IDC_DEPENDENT_LIST),
+            F::List(&CAnovaData::m_FactorList, Ids::IDC_FACTOR_LIST),
+            F::List(&CAnovaData::m_CovariateList, Ids::IDC_COVARIATE_LIST),
+            F::Value(&CAnovaData::m_MissingValCheck, Ids::IDC_MISSING_VALUES, &GetDefaultMissingValCheck),
+            F::Value(&CAnovaData::m_PostHocTestCheck, 0, &GetDefaultPostHocTestCheck),
+            F::Value(&CAnovaData::m_SaveFileCheck, Ids::IDC_SAVE_FILE_CHECK, &GetDefaultSaveFileCheck),
+            F::Value(&CAnovaData::m_PostHocTestCombo, 0, &GetDefaultPostHocTestCombo),
+            F::Value(&CAnovaData::m_SaveFileCombo, Ids::IDC_SAVE_FILE_COMBO, &GetDefaultSaveFileCombo),
+            F::Value(&CAnovaData::m_SaveFileEdit, Ids::IDC_SAVE_FILE_EDIT, &GetDefaultSaveFileEdit),
+        };
+    }
 
 private:
     CGUIArray<CGUIDataVariable> m_SourceList;

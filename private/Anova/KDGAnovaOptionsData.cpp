@@ -7,32 +7,6 @@
 
 IMPLEMENT_SERIAL(CAnovaOptionsData, CGUIBaseObj, 1)
 
-CAnovaOptionsData::CAnovaOptionsData()
-    : m_KsCheck(GetDefaultKsCheck()), m_AdCheck(GetDefaultAdCheck()), m_SwCheck(GetDefaultSwCheck()),
-      m_LeveneCheck(GetDefaultLeveneCheck()), m_SsTypeRadio(GetDefaultSsTypeIRadio())
-{
-}
-
-int CAnovaOptionsData::GetAll(int& ks, int& ad, int& sw, int& levene, int& ssRadio) const
-{
-    ks = m_KsCheck;
-    ad = m_AdCheck;
-    sw = m_SwCheck;
-    levene = m_LeveneCheck;
-    ssRadio = m_SsTypeRadio;
-    return 1;
-}
-
-int CAnovaOptionsData::SetAll(int ks, int ad, int sw, int levene, int ssRadio)
-{
-    m_KsCheck = ks;
-    m_AdCheck = ad;
-    m_SwCheck = sw;
-    m_LeveneCheck = levene;
-    m_SsTypeRadio = ssRadio;
-    return 1;
-}
-
 int CAnovaOptionsData::SetAllCheckState(int ks, int ad, int sw, int levene, int ss)
 {
     m_KsState = ks;
@@ -78,8 +52,5 @@ void CAnovaOptionsData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
 void CAnovaOptionsData::Serialize(CArchive& ar)
 {
     CGUIBaseObj::Serialize(ar);
-    if (ar.IsStoring())
-        ar << m_KsCheck << m_AdCheck << m_SwCheck << m_LeveneCheck << m_SsTypeRadio;
-    else
-        ar >> m_KsCheck >> m_AdCheck >> m_SwCheck >> m_LeveneCheck >> m_SsTypeRadio;
+    kal::SerializeValues(ar, m_KsCheck, m_AdCheck, m_SwCheck, m_LeveneCheck, m_SsTypeRadio);
 }

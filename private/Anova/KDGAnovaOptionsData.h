@@ -5,14 +5,16 @@
 // nor stored).
 #pragma once
 
+#include "framework/Fields.h"
 #include "framework/GUIBaseObj.h"
+#include "ids/anova.h"
 
 class CAnovaOptionsData : public CGUIBaseObj {
     DECLARE_SERIAL(CAnovaOptionsData)
 public:
     static constexpr UINT kSsTypeRadio = 1084; // type I, II, III: 1084, 1085, 1086
 
-    CAnovaOptionsData();
+    CAnovaOptionsData() { kal::ResetFields(*this); }
 
     static int GetDefaultKsCheck() { return 0; }
     static int GetDefaultAdCheck() { return 0; }
@@ -21,10 +23,16 @@ public:
     static int GetDefaultBartlettCheck() { return 0; }
     static int GetDefaultSsTypeIRadio() { return 2; }
 
-    int GetAll(int& ks, int& ad, int& sw, int& levene, int& ssRadio) const;
+    int GetAll(int& ks, int& ad, int& sw, int& levene, int& ssRadio) const
+    {
+        return kal::CopyFieldsOut(*this, ks, ad, sw, levene, ssRadio);
+    }
     // The settings-from-output-node form stays visible beside this one.
     using CGUIBaseObj::SetAll;
-    int SetAll(int ks, int ad, int sw, int levene, int ssRadio);
+    int SetAll(int ks, int ad, int sw, int levene, int ssRadio)
+    {
+        return kal::CopyFieldsIn(*this, ks, ad, sw, levene, ssRadio);
+    }
     int SetAllCheckState(int ks, int ad, int sw, int levene, int ss);
 
     // The clause alone, without the "/" that may precede it.
@@ -32,6 +40,20 @@ public:
 
     void GetCommandInfoList(CLIST<CCmdInfo>& list) const override;
     void Serialize(CArchive& ar) override;
+
+    // The page's check boxes and radio group (template 2007), in order.
+    static constexpr auto Fields()
+    {
+        using F = kal::FieldsOf<CAnovaOptionsData>;
+        using Ids = CAnovaOptionsDlgIds;
+        return std::tuple{
+            F::Value(&CAnovaOptionsData::m_KsCheck, Ids::IDC_KS, &GetDefaultKsCheck),
+            F::Value(&CAnovaOptionsData::m_AdCheck, Ids::IDC_AD, &GetDefaultAdCheck),
+            F::Value(&CAnovaOptionsData::m_SwCheck, Ids::IDC_SW, &GetDefaultSwCheck),
+            F::Value(&CAnovaOptionsData::m_LeveneCheck, Ids::IDC_LEVENE, &GetDefaultLeveneCheck),
+            F::Value(&CAnovaOptionsData::m_SsTypeRadio, Ids::IDC_SS_TYPE1, &GetDefaultSsTypeIRadio),
+        };
+    }
 
 private:
     int m_KsCheck;

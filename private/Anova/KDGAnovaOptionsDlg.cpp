@@ -4,60 +4,21 @@
 
 IMPLEMENT_DYNAMIC(CAnovaOptionsDlg, CGUIBaseDlg)
 
-CAnovaOptionsDlg::CAnovaOptionsDlg(CWnd* parent) : CGUIDataDlg(IDD, parent) {}
-
 BOOL CAnovaOptionsDlg::OnInitDialog()
 {
     CGUIBaseDlg::OnInitDialog();
     CRadioUtil::FillRadio(this, CAnovaOptionsData::kSsTypeRadio);
     if (GetDlgCaptionID() == kOwnerWithoutLeveneAndSs) {
-        for (const UINT id : {IDC_HOMOGENEITY_GROUP, IDC_SS_GROUP, IDC_SS_LABEL, IDC_LEVENE})
+        for (const UINT id : {IDC_HOMOGENEITY_GROUP, IDC_SS_GROUP, IDC_SS_LABEL})
             ShowCtrl(id, FALSE);
-        for (const UINT id : {IDC_SS_TYPE1, IDC_SS_TYPE2, IDC_SS_TYPE3}) {
+        // Hidden and disabled: the Levene test and the type are never
+        // written for this owner.
+        for (const UINT id : {IDC_LEVENE, IDC_SS_TYPE1, IDC_SS_TYPE2, IDC_SS_TYPE3}) {
             EnableCtrl(id, FALSE);
             ShowCtrl(id, FALSE);
         }
     }
     return TRUE;
-}
-
-void CAnovaOptionsDlg::DoDataExchange(CDataExchange* pDX)
-{
-    CGUIBaseDlg::DoDataExchange(pDX);
-    DDX_Check(pDX, IDC_KS, m_KsCheck);
-    DDX_Check(pDX, IDC_AD, m_AdCheck);
-    DDX_Check(pDX, IDC_SW, m_SwCheck);
-    DDX_Check(pDX, IDC_LEVENE, m_LeveneCheck);
-    DDX_Radio(pDX, IDC_SS_TYPE1, m_SsTypeRadio);
-}
-
-int CAnovaOptionsDlg::GetAll()
-{
-    return m_pData ? m_pData->GetAll(m_KsCheck, m_AdCheck, m_SwCheck, m_LeveneCheck, m_SsTypeRadio) : 0;
-}
-
-int CAnovaOptionsDlg::SetAll()
-{
-    return m_pData ? m_pData->SetAll(m_KsCheck, m_AdCheck, m_SwCheck, m_LeveneCheck, m_SsTypeRadio) : 0;
-}
-
-int CAnovaOptionsDlg::GetAllDefault()
-{
-    m_KsCheck = CAnovaOptionsData::GetDefaultKsCheck();
-    m_AdCheck = CAnovaOptionsData::GetDefaultAdCheck();
-    m_SwCheck = CAnovaOptionsData::GetDefaultSwCheck();
-    m_LeveneCheck = CAnovaOptionsData::GetDefaultLeveneCheck();
-    m_SsTypeRadio = CAnovaOptionsData::GetDefaultSsTypeIRadio();
-    return 1;
-}
-
-int CAnovaOptionsDlg::SetAllDefault()
-{
-    if (m_pData)
-        m_pData->SetAll(CAnovaOptionsData::GetDefaultKsCheck(), CAnovaOptionsData::GetDefaultAdCheck(),
-                        CAnovaOptionsData::GetDefaultSwCheck(), CAnovaOptionsData::GetDefaultLeveneCheck(),
-                        CAnovaOptionsData::GetDefaultSsTypeIRadio());
-    return 1;
 }
 
 int CAnovaOptionsDlg::OKLike()

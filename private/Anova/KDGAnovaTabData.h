@@ -1,21 +1,20 @@
 // CAnovaTabData: the settings of the ANOVA estimate-model tab dialog, its
 // four pages in page order: model, repeated measures, options, resampling.
-// The model page writes the lines; the later pages attach clauses to them,
-// so pages are asked strictly in this order, each while its window state
-// is set.
+// The model page writes the lines; the later pages attach clauses to them.
 #pragma once
 
 #include "framework/BootStrapData.h"
+#include "framework/GUITabData.h"
 #include "private/Anova/KDGAnovaData.h"
 #include "private/Anova/KDGAnovaOptionsData.h"
 #include "private/Anova/KDGRepeatMeasuresData.h"
 
-class CAnovaTabData : public CGUIBaseObj {
+class CAnovaTabData : public CGUITabData {
     DECLARE_SERIAL(CAnovaTabData)
 public:
-    CAnovaTabData();
-    CAnovaTabData(const CAnovaTabData& other);
-    CAnovaTabData& operator=(const CAnovaTabData& other);
+    CAnovaTabData() { LinkPages(); }
+    CAnovaTabData(const CAnovaTabData& other) : CAnovaTabData() { *this = other; }
+    CAnovaTabData& operator=(const CAnovaTabData&) = default;
 
     static CAnovaData GetDefaultAnova() { return CAnovaData(); }
     static CRepeatMeasuresData GetDefaultRepeatMeasures() { return CRepeatMeasuresData(); }
@@ -28,34 +27,31 @@ public:
     CBootStrapData* GetBootStrapData() { return &m_BootStrapData; }
 
     int GetAll(CAnovaData& anova, CRepeatMeasuresData& repeat, CAnovaOptionsData& options,
-               CBootStrapData& bootstrap) const;
+               CBootStrapData& bootstrap) const
+    {
+        return kal::CopyFieldsOut(*this, anova, repeat, options, bootstrap);
+    }
     // The settings-from-output-node form stays visible beside this one.
     using CGUIBaseObj::SetAll;
     int SetAll(const CAnovaData& anova, const CRepeatMeasuresData& repeat, const CAnovaOptionsData& options,
-               const CBootStrapData& bootstrap);
+               const CBootStrapData& bootstrap)
+    {
+        return kal::CopyFieldsIn(*this, anova, repeat, options, bootstrap);
+    }
 
-    void GetCommandInfoList(CLIST<CCmdInfo>& list) const override;
-    void FillListSource() override;
-    void ReassignDefaultValue() override;
-    // Sets this object's parent; its pages have this object as theirs.
-    void SetParent(CGUIBaseObj* parent) override;
-    void Serialize(CArchive& ar) override;
+    PageList Pages() override { return {&m_AnovaData, &m_RepeatMeasuresData, &m_AnovaOptionsData, &m_BootStrapData}; }
+
+    static constexpr auto Fields()
+    {
+        using F = kal::FieldsOf<CAnovaTabData>;
+        return std::tuple{F::Page(&CAnovaTabData::m_AnovaData), F::Page(&CAnovaTabData::m_RepeatMeasuresData),
+                          F::Page(&CAnovaTabData::m_AnovaOptionsData), F::Page(&CAnovaTabData::m_BootStrapData)};
+    }
 
 private:
-    // Pages in page order; the construction order is model, options, repeated
-    // measures, resampling, as the members are declared.
+    // Constructed as declared: model, options, repeated measures, resampling.
     CAnovaData m_AnovaData;
     CAnovaOptionsData m_AnovaOptionsData;
     CRepeatMeasuresData m_RepeatMeasuresData;
     CBootStrapData m_BootStrapData;
-
-    std::array<const CGUIBaseObj*, 4> Pages() const
-    {
-        return {&m_AnovaData, &m_RepeatMeasuresData, &m_AnovaOptionsData, &m_BootStrapData};
-    }
-    std::array<CGUIBaseObj*, 4> Pages()
-    {
-        return {&m_AnovaData, &m_RepeatMeasuresData, &m_AnovaOptionsData, &m_BootStrapData};
-    }
-    void LinkPages();
 };

@@ -13,21 +13,16 @@
 class CAnovaTabDlg : public CGUIDataDlg<CAnovaTabData, CGUITabDlg> {
     DECLARE_DYNAMIC(CAnovaTabDlg)
 public:
-    enum : UINT { IDD = 101, IDC_TAB = 1200 };
-
     explicit CAnovaTabDlg(CWnd* parent = nullptr);
 
     int GetAllDefault() override;
+    int GetDependentVariableCount() override { return m_AnovaDlg.GetDependentListCount(); }
     const char* GetSourceFile() const override { return "Source/KDGAnovaTabDlg"; }
 
     CAnovaDlg& GetAnovaDlg() { return m_AnovaDlg; }
     CRepeatMeasuresDlg& GetRepeatMeasuresDlg() { return m_RepeatMeasuresDlg; }
     CAnovaOptionsDlg& GetAnovaOptionsDlg() { return m_AnovaOptionsDlg; }
     CBootStrapDlg& GetBootStrapDlg() { return m_BootStrapDlg; }
-
-protected:
-    // Gives each page its part of the tab settings.
-    void OnDataSet() override;
 
 private:
     CAnovaDlg m_AnovaDlg{this};

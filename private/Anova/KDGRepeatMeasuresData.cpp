@@ -4,13 +4,6 @@
 
 IMPLEMENT_SERIAL(CRepeatMeasuresData, CGUIBaseObj, 1)
 
-CRepeatMeasuresData::CRepeatMeasuresData() : m_MeasureAnalysisOnOff(GetDefaultMeasureAnalysisOnOffCheck())
-{
-    GetDefaultName(m_arrStrName);
-    GetDefaultLevels(m_arrLevels);
-    GetDefaultMetric(m_arrStrMetric);
-}
-
 void CRepeatMeasuresData::GetDefaultName(CGUIArray<CString>& names)
 {
     names.RemoveAll();
@@ -27,26 +20,6 @@ void CRepeatMeasuresData::GetDefaultMetric(CGUIArray<CString>& metric)
 {
     metric.RemoveAll();
     metric.Add(CString());
-}
-
-int CRepeatMeasuresData::GetAll(int& onOff, CGUIArray<CString>& names, CGUIArray<int>& levels,
-                                CGUIArray<CString>& metric) const
-{
-    onOff = m_MeasureAnalysisOnOff;
-    names = m_arrStrName;
-    levels = m_arrLevels;
-    metric = m_arrStrMetric;
-    return 1;
-}
-
-int CRepeatMeasuresData::SetAll(int onOff, const CGUIArray<CString>& names, const CGUIArray<int>& levels,
-                                const CGUIArray<CString>& metric)
-{
-    m_MeasureAnalysisOnOff = onOff;
-    m_arrStrName = names;
-    m_arrLevels = levels;
-    m_arrStrMetric = metric;
-    return 1;
 }
 
 bool CRepeatMeasuresData::IsNamesDefault() const
@@ -98,12 +71,6 @@ void CRepeatMeasuresData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
 void CRepeatMeasuresData::Serialize(CArchive& ar)
 {
     CGUIBaseObj::Serialize(ar);
-    if (ar.IsStoring())
-        ar << m_MeasureAnalysisOnOff;
-    else
-        ar >> m_MeasureAnalysisOnOff;
     // Names, metric, levels: not member order, and kept so.
-    m_arrStrName.Serialize(ar);
-    m_arrStrMetric.Serialize(ar);
-    m_arrLevels.Serialize(ar);
+    kal::SerializeValues(ar, m_MeasureAnalysisOnOff, m_arrStrName, m_arrStrMetric, m_arrLevels);
 }

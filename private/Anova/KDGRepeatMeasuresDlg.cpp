@@ -1,7 +1,6 @@
 #include "private/Anova/KDGRepeatMeasuresDlg.h"
 
 #include "framework/GUITabDlg.h"
-#include "private/Anova/KDGAnovaDlg.h"
 
 #include <charconv>
 
@@ -11,11 +10,9 @@ BEGIN_MESSAGE_MAP(CRepeatMeasuresDlg, CKVGridMultiCtrlBaseDlg)
     ON_BN_CLICKED(CRepeatMeasuresDlg::IDC_ON_OFF, &CRepeatMeasuresDlg::OnOnOffCheck)
 END_MESSAGE_MAP()
 
-CRepeatMeasuresDlg::CRepeatMeasuresDlg(CWnd* parent) : CGUIDataDlg(IDD, parent, IDC_GRID) {}
-
 BOOL CRepeatMeasuresDlg::OnInitDialog()
 {
-    CGUIDataDlg::OnInitDialog();
+    CGUIPageDlg::OnInitDialog();
     // The row-number column needs half the room of the others.
     GetGrid().SetColumnWidth(colNumber, GetGrid().GetColumnWidth(colName) / 2);
     return TRUE;
@@ -23,47 +20,21 @@ BOOL CRepeatMeasuresDlg::OnInitDialog()
 
 void CRepeatMeasuresDlg::DoDataExchange(CDataExchange* pDX)
 {
-    CGUIDataDlg::DoDataExchange(pDX);
-    DDX_Check(pDX, IDC_ON_OFF, m_OnOff);
+    CGUIPageDlg::DoDataExchange(pDX);
     if (!pDX->m_bSaveAndValidate)
         FillGridFromData();
     DDX_ControlWarn(pDX, IDC_GRID, pDX->m_bSaveAndValidate ? ValidateLevels() : 0);
 }
 
-int CRepeatMeasuresDlg::GetAll()
-{
-    return m_pData ? m_pData->GetAll(m_OnOff, m_arrStrName, m_arrLevels, m_arrStrMetric) : 0;
-}
-
-int CRepeatMeasuresDlg::SetAll()
-{
-    return m_pData ? m_pData->SetAll(m_OnOff, m_arrStrName, m_arrLevels, m_arrStrMetric) : 0;
-}
-
-int CRepeatMeasuresDlg::GetAllDefault()
-{
-    m_OnOff = CRepeatMeasuresData::GetDefaultMeasureAnalysisOnOffCheck();
-    CRepeatMeasuresData::GetDefaultName(m_arrStrName);
-    CRepeatMeasuresData::GetDefaultLevels(m_arrLevels);
-    CRepeatMeasuresData::GetDefaultMetric(m_arrStrMetric);
-    return 1;
-}
-
-int CRepeatMeasuresDlg::SetAllDefault()
-{
-    if (m_pData)
-        *m_pData = CRepeatMeasuresData();
-    return 1;
-}
-
 int CRepeatMeasuresDlg::OKLike()
 {
     FillDataFromGrid();
-    return CGUIDataDlg::OKLike();
+    return CGUIPageDlg::OKLike();
 }
 
 void CRepeatMeasuresDlg::UpdateDependentWindows()
 {
+    CGUIPageDlg::UpdateDependentWindows();
     const bool on = IsDlgButtonChecked(IDC_ON_OFF) != 0;
     EnableCtrl(IDC_GRID, on);
     EnableCtrl(IDC_INSERT_ROW, on);
@@ -85,22 +56,20 @@ int CRepeatMeasuresDlg::GetDependentVariableCount() const
     const UINT owner = GetDlgCaptionID();
     if (owner != 2263 && owner != 2264 && owner != 2265)
         return 0;
-    const auto* tabDialog = dynamic_cast<const CGUITabDlg*>(GetParent());
-    if (!tabDialog || tabDialog->GetPages().empty())
-        return 0;
-    const auto* modelPage = dynamic_cast<const CAnovaDlg*>(tabDialog->GetPages().front());
-    return modelPage ? modelPage->GetDependentListCount() : 0;
+    CGUITabDlg* tab = GetTabDlg();
+    return tab ? tab->GetDependentVariableCount() : 0;
 }
 
 UINT CRepeatMeasuresDlg::ValidateLevels()
 {
-    if (!m_OnOff || !IsWindowEnabled())
+    if (!m_Work.m_MeasureAnalysisOnOff || !IsWindowEnabled())
         return 0;
     const int dependents = GetDependentVariableCount();
-    if (m_arrLevels.GetSize() == 1)
-        return m_arrLevels[0] == dependents ? 0 : kMsgSingleLevel;
+    const CGUIArray<int>& levelList = m_Work.m_arrLevels;
+    if (levelList.GetSize() == 1)
+        return levelList[0] == dependents ? 0 : kMsgSingleLevel;
     long long product = 1;
-    for (const int levels : m_arrLevels) {
+    for (const int levels : levelList) {
         if (levels < 2 || levels > dependents)
             return kMsgLevelRange;
         product *= levels;
@@ -111,21 +80,27 @@ UINT CRepeatMeasuresDlg::ValidateLevels()
 void CRepeatMeasuresDlg::FillGridFromData()
 {
     CGridCtrl& grid = GetGrid();
-    const int rows = std::max({m_arrStrName.GetSize(), m_arrLevels.GetSize(), m_arrStrMetric.GetSize()});
+    const auto& names = m_Work.m_arrStrName;
+    const auto& levels = m_Work.m_arrLevels;
+    const auto& metric = m_Work.m_arrStrMetric;
+    const int rows = std::max({names.GetSize(), levels.GetSize(), metric.GetSize()});
     grid.SetRowCount(rows + 1);
     for (int i = 0; i < rows; ++i) {
-        grid.SetItemText(i + 1, colName, i < m_arrStrName.GetSize() ? m_arrStrName[i] : CString());
-        grid.SetItemText(i + 1, colLevels, i < m_arrLevels.GetSize() ? CString::FromNumber(m_arrLevels[i]) : CString());
-        grid.SetItemText(i + 1, colMetric, i < m_arrStrMetric.GetSize() ? m_arrStrMetric[i] : CString());
+        grid.SetItemText(i + 1, colName, i < names.GetSize() ? names[i] : CString());
+        grid.SetItemText(i + 1, colLevels, i < levels.GetSize() ? CString::FromNumber(levels[i]) : CString());
+        grid.SetItemText(i + 1, colMetric, i < metric.GetSize() ? metric[i] : CString());
     }
 }
 
 void CRepeatMeasuresDlg::FillDataFromGrid()
 {
     const CGridCtrl& grid = GetGrid();
-    m_arrStrName.RemoveAll();
-    m_arrLevels.RemoveAll();
-    m_arrStrMetric.RemoveAll();
+    auto& names = m_Work.m_arrStrName;
+    auto& levelList = m_Work.m_arrLevels;
+    auto& metricList = m_Work.m_arrStrMetric;
+    names.RemoveAll();
+    levelList.RemoveAll();
+    metricList.RemoveAll();
     for (int row = 1; row < grid.GetRowCount(); ++row) {
         CString name = grid.GetItemText(row, colName);
         CString levelsText = grid.GetItemText(row, colLevels);
@@ -137,8 +112,8 @@ void CRepeatMeasuresDlg::FillDataFromGrid()
         const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), levels);
         if (error != std::errc() || end != digits.data() + digits.size())
             levels = 0; // not a number: the level check refuses it
-        m_arrStrName.Add(name.Trim());
-        m_arrLevels.Add(levels);
-        m_arrStrMetric.Add(metric.Trim());
+        names.Add(name.Trim());
+        levelList.Add(levels);
+        metricList.Add(metric.Trim());
     }
 }

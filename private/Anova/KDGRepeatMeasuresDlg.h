@@ -3,31 +3,23 @@
 // in use only when the model page has at least two dependent variables.
 #pragma once
 
-#include "framework/GUIDataDlg.h"
+#include "framework/GUIPageDlg.h"
 #include "framework/KVGridMultiCtrlBaseDlg.h"
 #include "private/Anova/KDGRepeatMeasuresData.h"
 
-class CRepeatMeasuresDlg : public CGUIDataDlg<CRepeatMeasuresData, CKVGridMultiCtrlBaseDlg> {
+class CRepeatMeasuresDlg : public CGUIPageDlg<CRepeatMeasuresData, CKVGridMultiCtrlBaseDlg>,
+                           public CRepeatMeasuresDlgIds {
     DECLARE_DYNAMIC(CRepeatMeasuresDlg)
 public:
-    enum : UINT {
-        IDD = 2011,
-        IDC_GRID = 4192,
-        IDC_ON_OFF = 4193,
-    };
     enum Column { colNumber = 0, colName = 1, colLevels = 2, colMetric = 3 };
     static constexpr UINT kMsgLevelRange = 2005;
     static constexpr UINT kMsgLevelProduct = 2006;
     static constexpr UINT kMsgSingleLevel = 2007;
 
-    explicit CRepeatMeasuresDlg(CWnd* parent = nullptr);
+    explicit CRepeatMeasuresDlg(CWnd* parent = nullptr) : CGUIPageDlg(IDD, parent, IDC_GRID) {}
 
     BOOL OnInitDialog() override;
     void DoDataExchange(CDataExchange* pDX) override;
-    int GetAll() override;
-    int SetAll() override;
-    int GetAllDefault() override;
-    int SetAllDefault() override;
     int OKLike() override;
     void UpdateDependentWindows() override;
     BOOL IsWindowEnabled() override;
@@ -47,9 +39,4 @@ protected:
 private:
     void FillGridFromData();
     void FillDataFromGrid();
-
-    int m_OnOff = 0;
-    CGUIArray<CString> m_arrStrName;
-    CGUIArray<int> m_arrLevels;
-    CGUIArray<CString> m_arrStrMetric;
 };

@@ -741,6 +741,7 @@ void WindowView::Apply(WndAspect aspect)
     case WndAspect::Visible: m_widget->setHidden(!m_wnd->IsWindowVisible()); break;
     case WndAspect::ToolTip: m_widget->setToolTip(ToQt(m_wnd->GetToolTipText())); break;
     case WndAspect::Invalidated: m_widget->update(); break;
+    case WndAspect::Focus: FocusWidget()->setFocus(Qt::OtherFocusReason); break;
     default: break;
     }
 }
