@@ -1,6 +1,7 @@
 #include "framework/GUITabCtrl.h"
 
 #include "framework/GUIBaseDlg.h"
+#include "framework/GUITabDlg.h"
 
 IMPLEMENT_DYNAMIC(CGUITabCtrl, CTabCtrl)
 
@@ -26,9 +27,12 @@ void CGUITabCtrl::SelectPage(int index)
 
 void CGUITabCtrl::UpdatePageStates()
 {
+    auto* tabDialog = dynamic_cast<CGUITabDlg*>(GetParent());
     for (int i = 0; i < GetPageCount(); ++i) {
         CGUIBaseDlg* page = m_pages[static_cast<std::size_t>(i)];
-        page->EnableWindow(page->IsWindowEnabled());
+        const CString reason = tabDialog ? tabDialog->GetUnavailableReason(*page) : CString();
+        SetItemAvailable(i, reason.IsEmpty(), reason);
+        page->EnableWindow(reason.IsEmpty() && page->IsWindowEnabled());
         page->ShowWindow(i == GetCurSel() ? SW_SHOW : SW_HIDE);
     }
 }

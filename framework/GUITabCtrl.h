@@ -1,6 +1,7 @@
 // CGUITabCtrl: the tab control of a tab dialog. Its pages are dialogs,
 // created as children of the tab dialog when added; only the current page
-// is visible, and each page is enabled as its IsWindowEnabled says.
+// is visible, and each page is enabled as its IsWindowEnabled says, unless
+// the tab dialog shows it as unavailable.
 #pragma once
 
 #include "platform/Wnd.h"

@@ -46,6 +46,11 @@ void CGUITabDlg::OnDataSet()
         m_pages[i]->SetData(i < settings.size() ? settings[i] : nullptr);
 }
 
+CString CGUITabDlg::GetUnavailableReason(CGUIBaseDlg&)
+{
+    return {};
+}
+
 void CGUITabDlg::OnPageChanged(CGUIBaseDlg* page)
 {
     for (CGUIBaseDlg* other : m_pages)
@@ -81,7 +86,7 @@ void CGUITabDlg::OnOK()
         CGUIBaseObj* data = nullptr;
         page->GetData(data);
         if (data)
-            data->SetWindowState(page->IsWindowEnabled() ? 1 : 0);
+            data->SetWindowState(page->IsWindowEnabled() && GetUnavailableReason(*page).IsEmpty() ? 1 : 0);
     }
     if (IGlobal* host = kal::framework::Host()) {
         host->UpdateViews(2);

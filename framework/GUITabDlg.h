@@ -40,6 +40,10 @@ public:
     // `page` changed what other pages depend on: their enable rules run
     // again and the tabs show which pages are in use.
     virtual void OnPageChanged(CGUIBaseDlg* page);
+    // Why the dialog shows `page` as unavailable now, or an empty text while
+    // it is available. An unavailable page's tab cannot be chosen, the page
+    // is disabled and at OK its settings are out of use.
+    virtual CString GetUnavailableReason(CGUIBaseDlg& page);
 
     // Saving: every page's OKLike in page order; the first refusal shows
     // its page and ends it with 0. Loading: InitDialogLike on every page

@@ -83,6 +83,32 @@ bool WriteEveryOption()
     return host && host->IsWriteEveryOption();
 }
 
+namespace {
+
+int ActiveDataTypeCode()
+{
+    IGlobal* host = Host();
+    return host && host->GetActiveDataSheet() ? host->GetDataTypeCode() : 0;
+}
+
+} // namespace
+
+bool IsOrdinaryData()
+{
+    return ActiveDataTypeCode() == 1;
+}
+
+bool IsMatrixData()
+{
+    return ActiveDataTypeCode() > 1;
+}
+
+CString CurrentCommandModule()
+{
+    IGlobal* host = Host();
+    return host ? host->GetCurrentCommandModule() : CString();
+}
+
 char16_t DecimalSeparator()
 {
     IGlobal* host = Host();

@@ -56,6 +56,11 @@ bool CHeadlessSession::Page(int index)
     if (index < 0 || index >= tabs->GetItemCount())
         throw HeadlessError("no page " + std::to_string(index) + " (the dialog has " +
                             std::to_string(tabs->GetItemCount()) + ", counted from 0)");
+    if (!tabs->IsItemAvailable(index)) {
+        const CString reason = tabs->GetItemReason(index);
+        throw HeadlessError("page " + std::to_string(index) + " is not available" +
+                            (reason.IsEmpty() ? std::string() : ": " + reason.ToUtf8()));
+    }
     return CUserInput::SelectTab(*tabs, index);
 }
 

@@ -90,7 +90,7 @@ bool CUserInput::EditCell(CGridCtrl& grid, int row, int column, const CString& t
 
 bool CUserInput::SelectTab(CTabCtrl& tabs, int index)
 {
-    if (!IsReachable(tabs) || index < 0 || index >= tabs.GetItemCount())
+    if (!IsReachable(tabs) || !tabs.IsItemAvailable(index))
         return false;
     tabs.SetCurSel(index);
     tabs.NotifyParentEx(TCN_SELCHANGE);

@@ -26,6 +26,7 @@ public:
     // Edits a data cell (row >= 1, column >= 1), the row just after the last
     // one included, then GVN_ENDLABELEDIT.
     static bool EditCell(CGridCtrl& grid, int row, int column, const CString& text);
+    // A tab the dialog shows as unavailable cannot be chosen.
     static bool SelectTab(CTabCtrl& tabs, int index);
 
     // Drag and drop of a list's selection: LVN_BEGINDRAG, then the owning

@@ -271,7 +271,7 @@ void CListCtrl::SetItems(std::vector<CString> texts)
 int CTabCtrl::InsertItem(int index, const CString& caption, CWnd* page)
 {
     index = std::clamp(index, 0, GetItemCount());
-    m_tabs.insert(m_tabs.begin() + index, Tab{caption, page});
+    m_tabs.insert(m_tabs.begin() + index, Tab{caption, page, true, {}});
     if (m_nCurSel < 0)
         m_nCurSel = 0;
     Changed(WndAspect::Pages);
@@ -286,6 +286,29 @@ CString CTabCtrl::GetItemText(int index) const
 CWnd* CTabCtrl::GetItemPage(int index) const
 {
     return index >= 0 && index < GetItemCount() ? m_tabs[static_cast<std::size_t>(index)].page : nullptr;
+}
+
+void CTabCtrl::SetItemAvailable(int index, bool available, const CString& reason)
+{
+    if (index < 0 || index >= GetItemCount())
+        return;
+    Tab& tab = m_tabs[static_cast<std::size_t>(index)];
+    const CString why = available ? CString() : reason;
+    if (tab.available == available && tab.reason == why)
+        return;
+    tab.available = available;
+    tab.reason = why;
+    Changed(WndAspect::Pages);
+}
+
+bool CTabCtrl::IsItemAvailable(int index) const
+{
+    return index >= 0 && index < GetItemCount() && m_tabs[static_cast<std::size_t>(index)].available;
+}
+
+CString CTabCtrl::GetItemReason(int index) const
+{
+    return index >= 0 && index < GetItemCount() ? m_tabs[static_cast<std::size_t>(index)].reason : CString();
 }
 
 int CTabCtrl::SetCurSel(int index)

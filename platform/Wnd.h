@@ -187,7 +187,8 @@ protected:
     std::vector<Item> m_items;
 };
 
-// Tab control: captions and, per tab, the page window it shows.
+// Tab control: captions and, per tab, the page window it shows. A tab the
+// dialog shows as unavailable cannot be chosen; it carries the reason.
 class CTabCtrl : public CWnd {
     DECLARE_DYNAMIC(CTabCtrl)
 public:
@@ -197,11 +198,17 @@ public:
     CWnd* GetItemPage(int index) const;
     int GetCurSel() const { return m_nCurSel; }
     int SetCurSel(int index);
+    void SetItemAvailable(int index, bool available, const CString& reason = {});
+    bool IsItemAvailable(int index) const;
+    // Why the tab is unavailable (empty while it is available).
+    CString GetItemReason(int index) const;
 
 private:
     struct Tab {
         CString caption;
         CWnd* page;
+        bool available = true;
+        CString reason;
     };
     std::vector<Tab> m_tabs;
     int m_nCurSel = -1;

@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStringList>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QToolButton>
@@ -475,8 +476,13 @@ protected:
                 QWidget* widget = page && page->GetDialogTemplate() ? m_run.BuildPage(*page) : new QWidget;
                 tabs->addTab(widget, ToQt(model->GetItemText(i)));
             }
-            for (int i = 0; i < model->GetItemCount(); ++i)
+            for (int i = 0; i < model->GetItemCount(); ++i) {
                 tabs->setTabText(i, ToQt(model->GetItemText(i)));
+                // The tab alone: the page widget keeps the enable state of
+                // its model page.
+                tabs->tabBar()->setTabEnabled(i, model->IsItemAvailable(i));
+                tabs->setTabToolTip(i, ToQt(model->GetItemReason(i)));
+            }
             Apply(WndAspect::Selection);
             break;
         case WndAspect::Selection:
