@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <iostream>
+#include <sstream>
+
 using namespace kaltest;
 
 namespace {
@@ -63,6 +66,17 @@ TEST_F(CommandBuilding, VariablesAreJoinedAndQuotedWhenNotPlainNames)
 
 TEST_F(CommandBuilding, NamesWithControlCharactersAreLeftOutAndReported)
 {
+    {
+        // The host's report names the variable, its control characters shown.
+        std::ostringstream err;
+        std::streambuf* previous = std::cerr.rdbuf(err.rdbuf());
+        CString line(u"COVAR ");
+        settings.AddVariables(line, Vars({u"tab\tname", u"bell\u0007"}), u" ");
+        std::cerr.rdbuf(previous);
+        EXPECT_NE(err.str().find(": the variable \"tab\\tname\" holds a control character"), std::string::npos)
+            << err.str();
+        EXPECT_NE(err.str().find("\"bell\\x07\""), std::string::npos) << err.str();
+    }
     AssertionCapture capture;
     CString line(u"DEPEND ");
     settings.AddVariables(line, Vars({u"Y", u"bad\nESTIMATE", u"Z", u"tab\tname"}), u" ");
@@ -93,6 +107,19 @@ TEST_F(CommandBuilding, ValueClausesFollowTheDefaultAndTheWriteAllPreference)
 
 TEST_F(CommandBuilding, ChangedValueRuleReadsStateAndFirstFlag)
 {
+    // What the settings classes write with: keyword and value under the rule,
+    // and the state query, its opposite.
+    const CGUIData<double> tolerance(1e-12);
+    CGUIData<double> typed = tolerance;
+    typed.m_nState = 0;
+    EXPECT_EQ(settings.AddChangedValueCmd(u" TOL = ", tolerance), CString());
+    EXPECT_EQ(settings.AddChangedValueCmd(u" TOL = ", typed), CString(u" TOL = 1e-12"));
+    EXPECT_EQ(settings.GetValueState(tolerance), 1);
+    host.writeEveryOption = true;
+    EXPECT_EQ(settings.AddChangedValueCmd(u" TOL = ", tolerance), CString(u" TOL = 1e-12"));
+    EXPECT_EQ(settings.GetValueState(tolerance), 0);
+    host.writeEveryOption = false;
+
     const CGUIData<double> atDefault(0.001);
     CGUIData<double> edited = atDefault;
     edited.m_nState = 0;
@@ -185,6 +212,22 @@ TEST_F(CommandBuilding, SlashesAndTrailingCharactersAreTidied)
     CStringUtil::GetStringLines(u"a\r\nb\nc", lines);
     ASSERT_EQ(lines.GetSize(), 3);
     EXPECT_EQ(lines[2], CString(u"c"));
+}
+
+TEST_F(CommandBuilding, ASlashInsideAQuotedNameIsNoOptionSeparator)
+{
+    auto list = ListOf({u"DEPEND 'a/b' c", u"SAVE 'x/y.kvd' / MODEL", u"MODEL 'MODEL x' = A"});
+    EXPECT_FALSE(CStringUtil::StringFoundAtIndex(list, u"/", 0));
+    EXPECT_TRUE(CStringUtil::StringFoundAtIndex(list, u"/", 1));
+    EXPECT_EQ(CStringUtil::SearchString(list, u"/"), 1);
+    EXPECT_EQ(CStringUtil::SearchString(list, u"MODEL x"), -1);
+    // A doubled quote inside a name does not end it.
+    EXPECT_EQ(CStringUtil::FindOutsideQuotes(u"A 'it''s/' / B", u"/"), 11);
+    CStringUtil::ReplaceStringAt(list, 2, u"MODEL", u"MODEL /");
+    EXPECT_EQ(list.GetAt(2).m_strCommand, CString(u"MODEL / 'MODEL x' = A"));
+    auto slashes = ListOf({u"XBAR 'a/ /b' / / Z"});
+    CStringUtil::RemoveRedundantSlash(slashes, 0);
+    EXPECT_EQ(slashes.GetAt(0).m_strCommand, CString(u"XBAR 'a/ /b' / Z"));
 }
 
 TEST_F(CommandBuilding, ComboAndRadioLookupsUseTheDialogsList)

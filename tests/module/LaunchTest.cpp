@@ -135,6 +135,49 @@ TEST_F(Launch, TwoIdsSharingARoutineKeepSeparateSettings)
     EXPECT_EQ(host.runs[1].second[1], u"DEPEND ");
 }
 
+TEST_F(Launch, TheDialogIsGivenItsOwnerContextByCommandId)
+{
+    int context = 0;
+    host.ownerContext = &context;
+    void* given = nullptr;
+    Script([&](CHeadlessSession& s) {
+        given = dynamic_cast<CGUIBaseDlg&>(s.Dialog()).GetOwnerContext();
+        s.Cancel();
+    });
+    module->GetAnalysisofVarianceMsg()->OnKVCommand(2008);
+    EXPECT_EQ(host.ownerContextRequests, std::vector<UINT>{2008});
+    EXPECT_EQ(given, &context);
+}
+
+TEST_F(Launch, ConfirmingWritesWhatAnImmediateOkWritesAndLeavesTheStoreAlone)
+{
+    // Settings as a store reload leaves them: no owner ids, no enable
+    // states of the options page, a page out of use.
+    CAnovaTabData stored;
+    stored.GetAnovaData()->SetAll(Vars({}), Vars({u"Y", u"Y2"}), Vars({}), Vars({}), 0, 0, 0, 1, 6, {});
+    stored.GetRepeatMeasuresData()->SetAll(1, {CString(u"a")}, {2}, {CString()});
+    stored.GetBootStrapData()->SetWindowState(0);
+    const MenuCommandRow& row = module->GetAnalysisofVarianceMsg()->Rows()[0];
+    CLIST<CCmdInfo> lines;
+    ASSERT_TRUE(row.confirm(&host, 2008, row, &stored, lines));
+    EXPECT_EQ(Lines(lines), (std::vector<std::u16string>{u"ANOVA", u"DEPEND Y Y2/ REPEAT = 2", u"CATEGORY / OFF",
+                                                          u"COVAR ", u"ESTIMATE / SS = TYPE3"}));
+    EXPECT_EQ(stored.GetRepeatMeasuresData()->GetOwnerID(), 0u);
+    EXPECT_EQ(stored.GetBootStrapData()->GetWindowState(), 0);
+    EXPECT_EQ(host.runs.size(), 0u);
+
+    // Settings the dialog refuses write nothing; other classes are not its.
+    stored.GetRepeatMeasuresData()->SetAll(1, {CString(u"a")}, {3}, {CString()});
+    CLIST<CCmdInfo> refused;
+    EXPECT_FALSE(row.confirm(&host, 2008, row, &stored, refused));
+    EXPECT_TRUE(refused.IsEmpty());
+    CAnovaData page;
+    EXPECT_FALSE(row.confirm(&host, 2008, row, &page, refused));
+    CLIST<CCmdInfo> defaults;
+    ASSERT_TRUE(row.confirm(&host, 2008, row, nullptr, defaults));
+    EXPECT_EQ(defaults.GetAt(1).m_strCommand, CString(u"DEPEND "));
+}
+
 TEST(MenuCaption, JoinsThePathWithoutMnemonicsAndDots)
 {
     CStringArray chain;

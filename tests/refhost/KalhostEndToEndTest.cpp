@@ -143,6 +143,41 @@ TEST(KalhostScripts, BadLinesFailedChecksAndDialogsLeftOpen)
     EXPECT_EQ(Kalhost({"--decimal", "ab", "list"}).status, 2);
 }
 
+TEST(KalhostPreferences, DecimalSeparatorsThatWouldReadAsSomethingElseAreRefused)
+{
+    for (const char* bad : {"5", " ", "'", "\"", "e", "/", "\t", "\xC3\xA9"}) {
+        const auto r = Kalhost({"--decimal", bad, "commands", "2008"});
+        EXPECT_EQ(r.status, 2) << bad;
+        EXPECT_EQ(r.out, "");
+        EXPECT_NE(r.err.find("--decimal takes one punctuation character"), std::string::npos) << r.err;
+    }
+    EXPECT_EQ(Kalhost({"--decimal", ",", "commands", "2008"}).status, 0);
+}
+
+TEST(KalhostPreferences, WriteAllWritesTheValuesThatGoWithoutSaying)
+{
+    const std::string script = "open 2008\nselect 1075 Y\nclick 1067\npage 3\nclick 5402\nok\n";
+    EXPECT_NE(Kalhost({"play", "-"}, script).out.find("ESTIMATE / SS = TYPE3 SAMPLE = BOOT(1000)\n"),
+              std::string::npos);
+    const auto all = Kalhost({"--write-all", "play", "-"}, script);
+    EXPECT_NE(all.out.find("ESTIMATE / SS = TYPE3 SAMPLE = BOOT(1000, 0) RSEED = 0\n"), std::string::npos) << all.out;
+}
+
+TEST(KalhostStore, QuotedNamesAndRepeatedMeasuresSurviveARestart)
+{
+    TempDir dir;
+    const auto csv = dir.Write("d.csv", "\"a/b\",c\n1,2\n3,4\n");
+    const std::string store = dir.Path() + "/s.store";
+    const auto ok = Kalhost({"--data", csv, "--store", store, "open", "2008", "--actions", "-"},
+                            "select 1075 a/b c\nclick 1067\npage 1\ncheck 4193 1\nok\n");
+    EXPECT_EQ(ok.status, 0) << ok.err;
+    // The slash inside the name introduces no option: the clause brings its own.
+    EXPECT_NE(ok.out.find("DEPEND 'a/b' c/ REPEAT = 2\n"), std::string::npos) << ok.out;
+    EXPECT_EQ(Kalhost({"--data", csv, "--store", store, "commands", "2008"}).out, ok.out);
+    const auto dump = Kalhost({"store-dump", store});
+    EXPECT_NE(dump.out.find("  DEPEND 'a/b' c/ REPEAT = 2\n  CATEGORY / OFF\n"), std::string::npos) << dump.out;
+}
+
 TEST(KalhostScripts, AValidationFailureKeepsTheDialogOpen)
 {
     const auto r = Kalhost({"play", "-"}, "open 2008\nselect 1075 Y Y2\nclick 1067\npage 1\ncheck 4193 1\n"

@@ -84,6 +84,8 @@ public:
     std::vector<std::pair<UINT, std::vector<std::u16string>>> runs; // command id, lines
     std::vector<CString> runCaptions;
     int dialogsOpened = 0;
+    void* ownerContext = nullptr;           // what GetOwnerContext answers
+    std::vector<UINT> ownerContextRequests; // the command ids it was asked for
 
     // IGlobal
     IModuleRegistry* GetModuleRegistry() override { return this; }
@@ -110,7 +112,11 @@ public:
     IModule* GetModule(const std::wstring& name) override;
     // IMainFrame
     CKVMenuBar* GetMenuBar() override { return this; }
-    void* GetOwnerContext(UINT) override { return nullptr; }
+    void* GetOwnerContext(UINT id) override
+    {
+        ownerContextRequests.push_back(id);
+        return ownerContext;
+    }
     // CKVMenuBar
     bool GetIDTextChain(UINT id, CStringArray& chain) override;
 
