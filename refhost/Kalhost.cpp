@@ -407,7 +407,9 @@ int Run(int argc, char** argv)
         ->needs(gui);
     auto* play = app.add_subcommand("play", "several dialog sessions from one script (open ID, actions, ok)");
     play->add_option("FILE", options.playFile, "the script, or - for standard input")->required();
-    auto* commands = app.add_subcommand("commands", "print the lines of the settings stored for ID, no dialog");
+    auto* commands = app.add_subcommand(
+        "commands", "print the lines the settings stored for ID write when their dialog is confirmed; no dialog "
+                    "is shown");
     commands->add_option("ID", options.commandId, "menu command id")->required();
     auto* dump = app.add_subcommand("store-dump", "show a settings store: its entries and the lines they write");
     dump->add_option("FILE", options.dumpFile, "the settings store file")->required();
