@@ -6,13 +6,18 @@
 //   record length (count form) and the record: the object's Serialize in
 //   an archive with the named-lists schema, so variable names survive.
 //
-// Files are replaced atomically (temporary file, flush, rename). Entries
-// of classes the loaded module does not know are carried over unchanged.
+// Files are replaced atomically (temporary file, flush, rename): the new
+// file takes the old one's permissions, a symbolic link keeps pointing to
+// it, and temporary files that an interrupted save left behind are removed
+// on the next start. Entries of classes the loaded module does not know are
+// carried over unchanged; an entry that cannot be used is set aside on its
+// own and the others load.
 #pragma once
 
 #include "framework/GUIBaseObj.h"
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <stdexcept>
@@ -21,9 +26,17 @@
 
 namespace kalhost {
 
+// The file's contents are not a store (or not one this module can read).
 class StoreError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
+};
+
+// The file cannot be read or written at all (permissions, a directory, an
+// I/O error): nothing is known about its contents, so it is never moved.
+class StoreAccessError : public StoreError {
+public:
+    using StoreError::StoreError;
 };
 
 struct StoreEntry {
@@ -34,11 +47,14 @@ struct StoreEntry {
 
 // Throws StoreError naming the file and what is wrong.
 std::vector<StoreEntry> ReadStoreFile(const std::filesystem::path& file);
+std::vector<StoreEntry> ReadStoreBytes(const std::vector<BYTE>& bytes, const std::string& name);
 void WriteStoreFile(const std::filesystem::path& file, const std::vector<StoreEntry>& entries);
+std::vector<BYTE> StoreBytes(const std::vector<StoreEntry>& entries);
 
 // A settings object from its entry: created by class name, loaded from the
-// record, which it must use up. Null when the class is not registered.
-// Throws StoreError when the record does not fit the class.
+// record, which it must use up, and able to write its lines. Null when the
+// class is not registered. Throws StoreError when the record does not fit
+// the class or its lines cannot be written.
 std::unique_ptr<CGUIBaseObj> LoadEntry(const StoreEntry& entry);
 StoreEntry SaveEntry(UINT id, CGUIBaseObj& settings);
 
@@ -55,9 +71,18 @@ public:
     // Settings objects' code lives in the module: clear before unloading it.
     void Clear();
 
-    // Loads every entry of `file`; on any failure nothing is kept and
-    // StoreError is thrown.
-    void Load(const std::filesystem::path& file);
+    // An entry that could not be used, and why.
+    struct Rejected {
+        StoreEntry entry;
+        std::string reason;
+    };
+    // Tries a loaded entry as its dialog would use it; throws (StoreError or
+    // the framework's CException) when the entry cannot be used.
+    using Check = std::function<void(UINT id, CGUIBaseObj& settings)>;
+    // Loads every usable entry of `file` and returns the others. When the
+    // file as a whole cannot be read, nothing is kept and StoreError (or
+    // StoreAccessError) is thrown.
+    std::vector<Rejected> Load(const std::filesystem::path& file, const Check& check = {});
     void Save(const std::filesystem::path& file) const;
 
 private:
@@ -68,5 +93,11 @@ private:
 // Renames an unreadable store out of the way ("<name>.unreadable", then
 // ".unreadable-2", ...) and returns the new name.
 std::filesystem::path KeepAside(const std::filesystem::path& file);
+// Writes entries that could not be used into a store of their own beside
+// `file`, named as KeepAside names, and returns its name.
+std::filesystem::path KeepAside(const std::filesystem::path& file, const std::vector<StoreEntry>& entries);
+// Removes the temporary files that saves of `file` by processes no longer
+// running left behind.
+void RemoveStaleTemporaries(const std::filesystem::path& file);
 
 } // namespace kalhost
