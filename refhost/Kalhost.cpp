@@ -13,6 +13,7 @@
 
 #include <dlfcn.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -20,6 +21,7 @@
 #include <iomanip>
 #include <iostream>
 #include <optional>
+#include <set>
 #include <sstream>
 
 namespace kalhost {
@@ -147,6 +149,8 @@ public:
     HostGlobal& Host() { return m_host; }
     LoadedModule& Module() { return *m_module; }
 
+    bool HasMenuCommand(UINT id) const { return !HandlerOf(m_resources->GetMenuBar(), id).empty(); }
+
     // Sends `id` to the handler of its menu group, as the host does.
     void SendMenuCommand(UINT id)
     {
@@ -190,10 +194,32 @@ private:
     void LoadStore()
     {
         const std::filesystem::path file = m_options.storeFile;
-        if (file.empty() || !std::filesystem::exists(file))
+        if (file.empty())
+            return;
+        RemoveStaleTemporaries(file);
+        std::error_code error;
+        if (!std::filesystem::exists(file, error) && !std::filesystem::is_symlink(file, error))
             return;
         try {
-            m_host.Store().Load(file);
+            // An entry is of use when its dialog can write its lines.
+            const auto rejected = m_host.Store().Load(file, [this](UINT id, CGUIBaseObj& settings) {
+                CLIST<CCmdInfo> lines;
+                m_module->ConfirmedLines(id, &settings, lines);
+            });
+            if (rejected.empty())
+                return;
+            std::vector<StoreEntry> entries;
+            for (const auto& r : rejected) {
+                std::cerr << "kalhost: the settings store " << file.string() << " holds an " << r.reason << std::endl;
+                entries.push_back(r.entry);
+            }
+            const auto aside = KeepAside(file, entries);
+            std::cerr << "kalhost: " << (entries.size() == 1 ? "that entry is" : "those entries are") << " kept in "
+                      << aside.string() << "; the session goes on with the others" << std::endl;
+        } catch (const StoreAccessError& e) {
+            // Nothing is known about a file that cannot be read: it stays as
+            // it is, and the run stops before it could be overwritten.
+            throw UsageError(std::string("the settings store ") + e.what());
         } catch (const StoreError& e) {
             const auto aside = KeepAside(file);
             std::cerr << "kalhost: the settings store cannot be read (" << e.what() << "); it is kept as "
@@ -270,7 +296,13 @@ int RunOpen(Session& session, const Options& options, CDialogDriver& driver,
 int OpenHeadless(Session& session, const Options& options)
 {
     CHeadlessDriver driver;
-    return RunOpen(session, options, driver, [&driver](CHeadlessDriver::Script script) { driver.SetScript(std::move(script)); });
+    const int status =
+        RunOpen(session, options, driver, [&driver](CHeadlessDriver::Script script) { driver.SetScript(std::move(script)); });
+    if (options.actionsFile.empty() && driver.LastLeftOpen())
+        std::cerr << "kalhost: nobody acted in the dialog of " << options.commandId
+                  << ", so it was left open: give it an action script (--actions FILE, or - for standard input), "
+                  << "or show it in a window with --gui" << std::endl;
+    return status;
 }
 
 // The Qt view plugin beside kalhost; it stays loaded until the process
@@ -302,15 +334,26 @@ int OpenInWindow(Session& session, const Options& options, int& argc, char** arg
         HostGlobal& host;
         ~PresenterReset() { host.SetMessagePresenter({}); }
     } reset{session.Host()};
-    return RunOpen(session, options, view->Driver(),
-                   [&view](CHeadlessDriver::Script script) { view->SetScript(std::move(script)); });
+    const int status = RunOpen(session, options, view->Driver(),
+                               [&view](CHeadlessDriver::Script script) { view->SetScript(std::move(script)); });
+    // A picture that was written is what a screenshot run is for, whether or
+    // not the script closed the dialog.
+    if (!options.screenshotFile.empty() && status == kExitDialogNotConfirmed && view->LastLeftOpen())
+        return kExitDone;
+    return status;
 }
 
 int Play(Session& session, const Options& options)
 {
+    std::vector<ScriptLine> lines = ParseScriptFile(options.playFile);
+    // Every command must exist before the first dialog opens: a bad id at
+    // the end must not cost the work confirmed before it.
+    for (const auto& line : lines)
+        if (line.verb == "open" && !session.HasMenuCommand(static_cast<UINT>(std::stoul(line.args[0]))))
+            throw UsageError(ScriptName(options.playFile) + " line " + std::to_string(line.number) +
+                             ": no menu command " + line.args[0]);
     CHeadlessDriver driver;
-    ScriptRunner runner(
-        ParseScriptFile(options.playFile), [&session](UINT id) { session.SendMenuCommand(id); }, true);
+    ScriptRunner runner(std::move(lines), [&session](UINT id) { session.SendMenuCommand(id); }, true);
     driver.SetScript([&runner](CHeadlessSession& s) { runner.RunDialog(s); });
     {
         DriverScope scope(driver);
@@ -376,6 +419,45 @@ int DumpStore(Session& session, const std::string& file)
 
 } // namespace
 
+namespace {
+
+constexpr const char* kSubcommands[] = {"list", "open", "play", "commands", "store-dump"};
+
+const char* const kFooter =
+    "Exit status: 0 done; 1 the last dialog was cancelled or left open; 2 bad usage, a bad script line, or a\n"
+    "file or output that cannot be read or written; 3 an expect check failed.\n"
+    "Action scripts (open, play): see kalhost(1) or docs/action-language.md.\n";
+
+// The first argument that is neither an option nor an option's value: the
+// subcommand the user meant, known or not.
+std::string SubcommandWord(int argc, char** argv)
+{
+    static const std::set<std::string> takesValue = {"--data", "--categorical", "--store", "--module-state",
+                                                     "--decimal", "--module"};
+    for (int i = 1; i < argc; ++i) {
+        const std::string arg = argv[i];
+        if (arg.empty() || arg[0] != '-')
+            return arg;
+        if (takesValue.count(arg))
+            ++i;
+    }
+    return {};
+}
+
+// Output that did not reach its file (a full disk, a closed pipe) is a
+// failure of the run, not a silent loss.
+int CheckOutput(int status)
+{
+    std::cout.flush();
+    std::wcout.flush();
+    if (std::cout && std::wcout)
+        return status;
+    std::cerr << "kalhost: standard output cannot be written" << std::endl;
+    return kExitUsage;
+}
+
+} // namespace
+
 int Run(int argc, char** argv)
 {
     // The module writes its trace line to the wide stream; unsynchronised
@@ -386,6 +468,8 @@ int Run(int argc, char** argv)
                  "Without --data the built-in sample data sheet is open."};
     app.require_subcommand(1, 1);
     app.fallthrough();
+    app.footer(kFooter);
+    app.set_version_flag("--version", std::string("kalhost ") + KAL_VERSION);
     Options options;
     app.add_option("--data", options.dataFile, "CSV data file to open instead of the built-in sample");
     app.add_flag("--no-data", options.noData, "open no data sheet");
@@ -403,7 +487,8 @@ int Run(int argc, char** argv)
     open->add_option("ID", options.commandId, "menu command id")->required();
     open->add_option("--actions", options.actionsFile, "action script for the dialog (FILE, or - for standard input)");
     auto* gui = open->add_flag("--gui", options.gui, "show the dialog in a window (Qt)");
-    open->add_option("--screenshot", options.screenshotFile, "with --gui: render the dialog to FILE.png, no display needed")
+    open->add_option("--screenshot", options.screenshotFile,
+                     "with --gui: render the dialog to FILE (.png, .jpg, ...), no display needed")
         ->needs(gui);
     auto* play = app.add_subcommand("play", "several dialog sessions from one script (open ID, actions, ok)");
     play->add_option("FILE", options.playFile, "the script, or - for standard input")->required();
@@ -413,11 +498,19 @@ int Run(int argc, char** argv)
     commands->add_option("ID", options.commandId, "menu command id")->required();
     auto* dump = app.add_subcommand("store-dump", "show a settings store: its entries and the lines they write");
     dump->add_option("FILE", options.dumpFile, "the settings store file")->required();
+    for (CLI::App* sub : {list, open, play, commands, dump})
+        sub->footer(kFooter);
 
+    const std::string word = SubcommandWord(argc, argv);
+    if (!word.empty() && std::find(std::begin(kSubcommands), std::end(kSubcommands), word) == std::end(kSubcommands)) {
+        std::cerr << "kalhost: unknown subcommand \"" << word
+                  << "\"; the subcommands are list, open, play, commands and store-dump (kalhost --help)" << std::endl;
+        return kExitUsage;
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {
-        return app.exit(e) == 0 ? kExitDone : kExitUsage;
+        return CheckOutput(app.exit(e) == 0 ? kExitDone : kExitUsage);
     }
 
     try {
@@ -429,26 +522,31 @@ int Run(int argc, char** argv)
             plain.dataFile.clear();
             plain.categorical.clear();
             Session session(plain);
-            return DumpStore(session, options.dumpFile);
+            return CheckOutput(DumpStore(session, options.dumpFile));
         }
         Session session(options);
-        int status = kExitDone;
-        if (*list)
-            status = ListCommands(session);
-        else if (*open)
-            status = options.gui ? OpenInWindow(session, options, argc, argv) : OpenHeadless(session, options);
-        else if (*play)
-            status = Play(session, options);
-        else if (*commands)
-            status = PrintCommands(session, options.commandId);
-        std::cout.flush();
+        int status = kExitUsage;
+        try {
+            if (*list)
+                status = ListCommands(session);
+            else if (*open)
+                status = options.gui ? OpenInWindow(session, options, argc, argv) : OpenHeadless(session, options);
+            else if (*play)
+                status = Play(session, options);
+            else if (*commands)
+                status = PrintCommands(session, options.commandId);
+        } catch (const std::exception& e) {
+            std::cout.flush();
+            std::cerr << "kalhost: " << e.what() << std::endl;
+        }
+        // What the user confirmed before any failure is kept.
         if (!session.SaveStore() && status == kExitDone)
             status = kExitUsage;
-        return status;
+        return CheckOutput(status);
     } catch (const std::exception& e) {
         std::cout.flush();
         std::cerr << "kalhost: " << e.what() << std::endl;
-        return kExitUsage;
+        return CheckOutput(kExitUsage);
     }
 }
 

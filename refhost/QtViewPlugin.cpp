@@ -14,6 +14,7 @@ public:
     CDialogDriver& Driver() override { return m_driver; }
     void SetScript(std::function<void(CHeadlessSession&)> script) override { m_driver.SetScript(std::move(script)); }
     void SetScreenshotFile(const std::string& file) override { m_driver.SetScreenshotFile(file); }
+    bool LastLeftOpen() const override { return m_driver.LastLeftOpen(); }
     void ShowMessage(const CString& text) override
     {
         QMessageBox::warning(QApplication::activeWindow(), QStringLiteral("kalhost"),

@@ -16,6 +16,9 @@ public:
     // See qt::QtDialogDriver.
     virtual void SetScript(std::function<void(CHeadlessSession&)> script) = 0;
     virtual void SetScreenshotFile(const std::string& file) = 0;
+    // Whether the last dialog ended with nobody closing it (after a
+    // screenshot, say).
+    virtual bool LastLeftOpen() const = 0;
     // A message box over the active window; returns when the user closes it.
     virtual void ShowMessage(const CString& text) = 0;
 };

@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QFile>
+#include <QImageWriter>
 #include <QTemporaryDir>
 #include <QMenu>
 
@@ -110,8 +111,13 @@ INT_PTR QtDialogDriver::RunModal(CDialog& dialog)
     impl.lastLeftOpen = dialog.IsRunning();
     if (impl.lastLeftOpen)
         dialog.EndDialog(IDCANCEL);
-    if (!written)
-        throw std::runtime_error("cannot write the screenshot " + impl.screenshot);
+    if (!written) {
+        std::string formats;
+        for (const QByteArray& format : QImageWriter::supportedImageFormats())
+            formats += (formats.empty() ? "" : ", ") + format.toStdString();
+        throw std::runtime_error("cannot write the screenshot " + impl.screenshot +
+                                 " (the file name's extension chooses the format: " + formats + ")");
+    }
     return dialog.GetModalResult();
 }
 

@@ -194,7 +194,8 @@ bool DialogRun::Render(const QString& file)
     const QPixmap pixmap = m_window->grab();
     m_window->hide();
     m_window->setAttribute(Qt::WA_DontShowOnScreen, false);
-    return !pixmap.isNull() && pixmap.save(file, "PNG");
+    // The format follows the file's extension.
+    return !pixmap.isNull() && pixmap.save(file);
 }
 
 CWnd* DialogRun::WindowAt(const QPoint& global) const

@@ -178,6 +178,49 @@ TEST(KalhostStore, QuotedNamesAndRepeatedMeasuresSurviveARestart)
     EXPECT_NE(dump.out.find("  DEPEND 'a/b' c/ REPEAT = 2\n  CATEGORY / OFF\n"), std::string::npos) << dump.out;
 }
 
+TEST(KalhostCommandLine, TellsWhatItIsWhatItWantsAndHowItEnded)
+{
+    const auto version = Kalhost({"--version"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.out.rfind("kalhost ", 0), 0u) << version.out;
+
+    const auto bogus = Kalhost({"--write-all", "bogus", "2008"});
+    EXPECT_EQ(bogus.status, 2);
+    EXPECT_NE(bogus.err.find("unknown subcommand \"bogus\""), std::string::npos) << bogus.err;
+
+    for (const char* sub : {"list", "open", "play", "commands", "store-dump"}) {
+        const auto help = Kalhost({sub, "--help"});
+        EXPECT_EQ(help.status, 0) << sub;
+        EXPECT_NE(help.out.find("Exit status: 0 done; 1 the last dialog"), std::string::npos) << sub;
+        EXPECT_NE(help.out.find("docs/action-language.md"), std::string::npos) << sub;
+    }
+
+    // A dialog nobody can act in says what to do instead.
+    const auto idle = Kalhost({"open", "2008"});
+    EXPECT_EQ(idle.status, 1);
+    EXPECT_NE(idle.err.find("give it an action script (--actions FILE"), std::string::npos) << idle.err;
+
+    // Output that cannot be written is a failure.
+    const auto full = RunProcess("/bin/sh", {"-c", std::string("'") + KALHOST_PATH + "' list > /dev/full"});
+    EXPECT_EQ(full.status, 2);
+    EXPECT_NE(full.err.find("standard output cannot be written"), std::string::npos) << full.err;
+}
+
+TEST(KalhostScripts, EveryCommandOfAPlayIsCheckedBeforeTheFirstDialogOpens)
+{
+    TempDir dir;
+    const std::string store = dir.Path() + "/s.store";
+    const auto r = Kalhost({"--store", store, "play", "-"}, "open 2008\nselect 1075 Y\nclick 1067\nok\n\nopen 4242\nok\n");
+    EXPECT_EQ(r.status, 2);
+    EXPECT_EQ(r.out, ""); // nothing ran
+    EXPECT_EQ(r.err, "kalhost: standard input line 6: no menu command 4242\n");
+
+    // A failure after confirmed work keeps that work in the store.
+    const auto later = Kalhost({"--store", store, "play", "-"}, "open 2008\nselect 1075 Y\nclick 1067\nok\nopen 2008\nselect 1075 Nope\n");
+    EXPECT_EQ(later.status, 2);
+    EXPECT_NE(Kalhost({"--store", store, "commands", "2008"}).out.find("DEPEND Y\n"), std::string::npos);
+}
+
 TEST(KalhostScripts, AValidationFailureKeepsTheDialogOpen)
 {
     const auto r = Kalhost({"play", "-"}, "open 2008\nselect 1075 Y Y2\nclick 1067\npage 1\ncheck 4193 1\n"
@@ -219,7 +262,7 @@ TEST(KalhostWindow, ScreenshotsRenderWithoutADisplayAndOkStillRuns)
     const std::string picture = dir.Path() + "/anova.png";
     const auto script = dir.Write("a.kal", "select 1075 Y\nclick 1067\npage 2\ncheck 1081 1\n");
     const auto open = Kalhost({"open", "2008", "--gui", "--screenshot", picture, "--actions", script});
-    EXPECT_EQ(open.status, 1) << open.err; // the script left the dialog open
+    EXPECT_EQ(open.status, 0) << open.err; // the picture was the point: the dialog may stay open
     EXPECT_EQ(open.err, "");
     std::ifstream png(picture, std::ios::binary);
     char signature[8] = {};
@@ -233,4 +276,15 @@ TEST(KalhostWindow, ScreenshotsRenderWithoutADisplayAndOkStillRuns)
     EXPECT_EQ(confirmed.out, "ANOVA\nDEPEND Y\nCATEGORY A B / REPLACE\nCOVAR \nESTIMATE / SS = TYPE3\n");
 
     EXPECT_EQ(Kalhost({"open", "2008", "--screenshot", picture}).status, 2); // needs --gui
+
+    // The file name's extension chooses the format.
+    const std::string jpeg = dir.Path() + "/anova.jpg";
+    EXPECT_EQ(Kalhost({"open", "2008", "--gui", "--screenshot", jpeg, "--actions", script}).status, 0);
+    std::ifstream jpg(jpeg, std::ios::binary);
+    char start[3] = {};
+    jpg.read(start, sizeof start);
+    EXPECT_EQ(std::string(start, 3), "\xFF\xD8\xFF");
+    const auto unknown = Kalhost({"open", "2008", "--gui", "--screenshot", dir.Path() + "/anova.nope", "--actions", script});
+    EXPECT_EQ(unknown.status, 2);
+    EXPECT_NE(unknown.err.find("the file name's extension chooses the format"), std::string::npos) << unknown.err;
 }
