@@ -69,6 +69,8 @@ struct Field {
     double min = 0;
     double max = 0;
     UINT rangeMessage = 0;
+    // A text that may not be empty while this check box is checked.
+    UINT requiredBy = 0;
 
     // The page refuses values outside [lo, hi] with `message`.
     constexpr Field Range(double lo, double hi, UINT message = kMsgOutOfRange) const
@@ -83,6 +85,14 @@ struct Field {
     {
         Field f = *this;
         f.flags |= kFieldOpenFile;
+        return f;
+    }
+    // The text is needed while the check box `check` is checked (a save
+    // file while saving is asked for).
+    constexpr Field RequiredBy(UINT check) const
+    {
+        Field f = *this;
+        f.requiredBy = check;
         return f;
     }
 

@@ -579,6 +579,15 @@ void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field,
 void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CString& value)
 {
     CDDXVDlg::DDX_Text(pDX, field.control, value, 0, 0, 1, 0);
+    if (pDX->m_bSaveAndValidate && IsCtrlEnabled(field.control)) {
+        // A text goes into a command line: it may not start a line of its own.
+        const bool missing = field.requiredBy && IsDlgButtonChecked(field.requiredBy) && value.IsEmpty();
+        if (missing || ContainsControlCharacter(value)) {
+            pDX->m_idLastControl = field.control;
+            AfxMessageBox(missing ? kMsgTextRequired : kMsgControlCharacter);
+            pDX->Fail();
+        }
+    }
     const CWnd* control = GetDlgItem(field.control);
     if (control && control->GetKind() == ControlKind::FileEdit) {
         // Files are the package's data files unless the user names another.

@@ -58,7 +58,12 @@ struct CFieldExchange {
     double min = 0;
     double max = 0;
     UINT rangeMessage = 0; // 0: any value
+    UINT requiredBy = 0;   // a check box that makes the text necessary
 };
+
+// Messages of the text checks every page shares.
+inline constexpr UINT kMsgTextRequired = 2015;
+inline constexpr UINT kMsgControlCharacter = 2016;
 
 class CGUIBaseDlg : public CDDXVDlg {
     DECLARE_DYNAMIC(CGUIBaseDlg)
@@ -222,7 +227,8 @@ protected:
     // Data exchange of one field by the kind of its control: check boxes,
     // radio groups and combo boxes hold an index, edits a number or a text,
     // file edits a file name, lists their variables. Range checks apply
-    // while the control is enabled.
+    // while the control is enabled; no text may hold a control character,
+    // and a text a checked box requires may not be empty.
     void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, int& value);
     void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CString& value);
     void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIData<int>& value);

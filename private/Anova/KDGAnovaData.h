@@ -77,7 +77,8 @@ public:
             F::Value(&CAnovaData::m_SaveFileCheck, Ids::IDC_SAVE_FILE_CHECK, &GetDefaultSaveFileCheck),
             F::Value(&CAnovaData::m_PostHocTestCombo, 0, &GetDefaultPostHocTestCombo),
             F::Value(&CAnovaData::m_SaveFileCombo, Ids::IDC_SAVE_FILE_COMBO, &GetDefaultSaveFileCombo),
-            F::Value(&CAnovaData::m_SaveFileEdit, Ids::IDC_SAVE_FILE_EDIT, &GetDefaultSaveFileEdit),
+            F::Value(&CAnovaData::m_SaveFileEdit, Ids::IDC_SAVE_FILE_EDIT, &GetDefaultSaveFileEdit)
+                .RequiredBy(Ids::IDC_SAVE_FILE_CHECK),
         };
     }
 

@@ -49,9 +49,10 @@ CString CRepeatMeasuresData::GetClause(bool anchorHasSlash) const
             clause += u", ";
     }
     if (!IsNamesDefault()) {
+        // Quoted like variable names unless plain, so no name adds a clause.
         clause += u", NAMES = ";
         for (int i = 0; i < m_arrStrName.GetSize(); ++i)
-            clause += (i > 0 ? u", " : u"") + m_arrStrName[i];
+            clause += (i > 0 ? u", " : u"") + QuoteName(m_arrStrName[i]);
     }
     return clause;
 }

@@ -3,6 +3,7 @@
 #include "framework/GUITabDlg.h"
 
 #include <charconv>
+#include <unordered_set>
 
 IMPLEMENT_DYNAMIC(CRepeatMeasuresDlg, CKVGridMultiCtrlBaseDlg)
 
@@ -23,7 +24,10 @@ void CRepeatMeasuresDlg::DoDataExchange(CDataExchange* pDX)
     CGUIPageDlg::DoDataExchange(pDX);
     if (!pDX->m_bSaveAndValidate)
         FillGridFromData();
-    DDX_ControlWarn(pDX, IDC_GRID, pDX->m_bSaveAndValidate ? ValidateLevels() : 0);
+    if (pDX->m_bSaveAndValidate) {
+        const UINT levels = ValidateLevels();
+        DDX_ControlWarn(pDX, IDC_GRID, levels ? levels : ValidateNamesAndMetrics());
+    }
 }
 
 int CRepeatMeasuresDlg::OKLike()
@@ -75,6 +79,42 @@ UINT CRepeatMeasuresDlg::ValidateLevels()
         product *= levels;
     }
     return product == dependents ? 0 : kMsgLevelProduct;
+}
+
+UINT CRepeatMeasuresDlg::ValidateNamesAndMetrics()
+{
+    if (!m_Work.m_MeasureAnalysisOnOff || !IsWindowEnabled())
+        return 0;
+    const auto& names = m_Work.m_arrStrName;
+    std::unordered_set<CString> seen;
+    for (const CString& name : names) {
+        if (ContainsControlCharacter(name))
+            return kMsgControlCharacter;
+        if (!CString(name).Trim().IsEmpty() && !seen.insert(name).second)
+            return kMsgDuplicateName;
+    }
+    // A metric spaces the levels of its factor: one number per level.
+    const auto& levels = m_Work.m_arrLevels;
+    const auto& metrics = m_Work.m_arrStrMetric;
+    for (int i = 0; i < metrics.GetSize() && i < levels.GetSize(); ++i) {
+        CString metric = metrics[i];
+        if (metric.Trim().IsEmpty())
+            continue;
+        int count = 0;
+        for (int start = 0;;) {
+            const int comma = metric.Find(u',', start);
+            const CString part = metric.Mid(start, comma < 0 ? metric.GetLength() - start : comma - start);
+            if (!CGUIBaseObj::IsNumeric(part))
+                return kMsgMetric;
+            ++count;
+            if (comma < 0)
+                break;
+            start = comma + 1;
+        }
+        if (count != levels[i])
+            return kMsgMetric;
+    }
+    return 0;
 }
 
 void CRepeatMeasuresDlg::FillGridFromData()

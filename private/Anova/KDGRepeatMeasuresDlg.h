@@ -15,6 +15,8 @@ public:
     static constexpr UINT kMsgLevelRange = 2005;
     static constexpr UINT kMsgLevelProduct = 2006;
     static constexpr UINT kMsgSingleLevel = 2007;
+    static constexpr UINT kMsgMetric = 2013;
+    static constexpr UINT kMsgDuplicateName = 2014;
 
     explicit CRepeatMeasuresDlg(CWnd* parent = nullptr) : CGUIPageDlg(IDD, parent, IDC_GRID) {}
 
@@ -30,6 +32,9 @@ public:
     int GetDependentVariableCount() const;
     // 0 when the levels fit the dependent variables, else the message id.
     UINT ValidateLevels();
+    // 0 when every metric lists one number per level and the names are
+    // distinct and free of control characters, else the message id.
+    UINT ValidateNamesAndMetrics();
 
 protected:
     void OnOnOffCheck();

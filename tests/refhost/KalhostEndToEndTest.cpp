@@ -221,6 +221,36 @@ TEST(KalhostScripts, EveryCommandOfAPlayIsCheckedBeforeTheFirstDialogOpens)
     EXPECT_NE(Kalhost({"--store", store, "commands", "2008"}).out.find("DEPEND Y\n"), std::string::npos);
 }
 
+TEST(KalhostScripts, TypedTextCannotAddAClause)
+{
+    // Names are quoted like variable names; a metric must be numbers.
+    const auto r = Kalhost({"play", "-"}, "open 2008\nselect 1075 T1 T2 T3\nclick 1067\npage 1\ncheck 4193 1\n"
+                                          "cell 4192 1 1 \"harvest / SS = TYPE1\"\ncell 4192 1 2 3\n"
+                                          "cell 4192 1 3 \"1,2,4; ANOVA\"\nok\n"
+                                          "cell 4192 1 3 1,2\nok\n"
+                                          "cell 4192 1 3 \"1, 2,4\"\nok\n");
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(r.err, "message 2013: A metric lists one number for each level of its factor, separated by commas, "
+                     "such as 1,2,4.\nmessage 2013: A metric lists one number for each level of its factor, "
+                     "separated by commas, such as 1,2,4.\n");
+    EXPECT_NE(r.out.find("DEPEND T1 T2 T3/ REPEAT = 3(1, 2,4), NAMES = 'harvest / SS = TYPE1'\n"), std::string::npos)
+        << r.out;
+
+    const auto twice = Kalhost({"open", "2008", "--actions", "-"},
+                               "select 1075 T1 T2 T3 Y\nclick 1067\npage 1\ncheck 4193 1\ncell 4192 1 1 t\n"
+                               "cell 4192 1 2 2\ncell 4192 2 1 t\ncell 4192 2 2 2\nok\ncancel\n");
+    EXPECT_EQ(twice.err, "message 2014: Each factor needs a name of its own.\n");
+
+    // A checked save box needs a file; no text may hold a control character.
+    const auto save = Kalhost({"open", "2008", "--actions", "-"},
+                              "select 1075 Y\nclick 1067\ncheck 1091 1\nok\ntype 1093 \"a\tb.kvd\"\nok\n"
+                              "type 1093 out.kvd\nok\n");
+    EXPECT_EQ(save.status, 0) << save.err;
+    EXPECT_EQ(save.err, "message 2015: Please enter the name of the file to save to.\n"
+                        "message 2016: The text cannot hold line breaks, tabs or other control characters.\n");
+    EXPECT_NE(save.out.find("SAVE 'out.kvd' / RESIDUALS/DATA\n"), std::string::npos) << save.out;
+}
+
 TEST(KalhostScripts, AValidationFailureKeepsTheDialogOpen)
 {
     const auto r = Kalhost({"play", "-"}, "open 2008\nselect 1075 Y Y2\nclick 1067\npage 1\ncheck 4193 1\n"
