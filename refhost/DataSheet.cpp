@@ -9,6 +9,7 @@
 #include <cstring>
 #include <fstream>
 #include <map>
+#include <unordered_map>
 #include <sstream>
 
 namespace kalhost {
@@ -62,47 +63,164 @@ DataSheet DataSheet::LoadCsv(const std::filesystem::path& file)
 
 namespace {
 
-// Reads CSV records one physical line at a time, so that every record
-// knows the line it started on. The header becomes the variables; each
-// later record only updates the column types.
+// A number in its plain form (sign, up to 15 digits, one point, blanks
+// around it) is finite whatever its digits; anything else is left to
+// IsNumberText.
+bool IsPlainNumber(std::string_view text, bool& decided)
+{
+    std::size_t i = 0;
+    const std::size_t n = text.size();
+    while (i < n && text[i] == ' ')
+        ++i;
+    if (i < n && (text[i] == '-' || text[i] == '+'))
+        ++i;
+    int digits = 0;
+    bool point = false;
+    for (; i < n; ++i) {
+        const char c = text[i];
+        if (c >= '0' && c <= '9')
+            ++digits;
+        else if (c == '.' && !point)
+            point = true;
+        else
+            break;
+    }
+    while (i < n && (text[i] == ' ' || text[i] == '\r'))
+        ++i;
+    decided = i == n && digits > 0 && digits <= 15;
+    return decided;
+}
+
+bool IsAscii(std::string_view text)
+{
+    for (const char c : text)
+        if (static_cast<unsigned char>(c) >= 0x80)
+            return false;
+    return true;
+}
+
+bool IsUtf8(std::string_view text)
+{
+    for (std::size_t i = 0; i < text.size();) {
+        const auto c = static_cast<unsigned char>(text[i]);
+        const std::size_t length = c < 0x80 ? 1 : (c >> 5) == 0x6 ? 2 : (c >> 4) == 0xE ? 3 : (c >> 3) == 0x1E ? 4 : 0;
+        if (length == 0 || i + length > text.size())
+            return false;
+        std::uint32_t code = length == 1 ? c : c & (0x3F >> (length - 1));
+        for (std::size_t k = 1; k < length; ++k) {
+            const auto next = static_cast<unsigned char>(text[i + k]);
+            if ((next & 0xC0) != 0x80)
+                return false;
+            code = (code << 6) | (next & 0x3F);
+        }
+        // No overlong forms, no surrogates, nothing past U+10FFFF.
+        static constexpr std::uint32_t kLeast[] = {0, 0, 0x80, 0x800, 0x10000};
+        if (code < kLeast[length] || (code >= 0xD800 && code <= 0xDFFF) || code > 0x10FFFF)
+            return false;
+        i += length;
+    }
+    return true;
+}
+
+int IsBlankOnly(unsigned char c)
+{
+    return c == ' ';
+}
+
+// Reads a CSV sheet in large blocks, a physical line at a time, so that
+// every record knows the line it started on. Lines without a quote are
+// split directly; a line with one, and the lines of a quoted value it
+// opens, go through libcsv. The header becomes the variables; each later
+// record only updates the column types.
 class CsvSheetReader {
 public:
     explicit CsvSheetReader(std::string name) : m_name(std::move(name)) {}
+    ~CsvSheetReader() { csv_free(&m_parser); }
+    CsvSheetReader(const CsvSheetReader&) = delete;
+    CsvSheetReader& operator=(const CsvSheetReader&) = delete;
 
     DataSheet Read(std::istream& in)
     {
-        csv_parser parser;
-        if (csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI | CSV_APPEND_NULL) != 0)
+        if (csv_init(&m_parser, CSV_STRICT | CSV_STRICT_FINI | CSV_APPEND_NULL) != 0)
             throw DataError(m_name + ": cannot set up the CSV reader");
-        std::string text;
-        bool failed = false;
-        while (!failed && m_error.empty() && std::getline(in, text)) {
-            ++m_line;
-            // A record starts on the first line with text after the last
-            // record ended; a quoted value may carry it over more lines.
-            if (m_betweenRecords && text.find_first_not_of(" \t\r") != std::string::npos) {
-                m_recordStart = m_line;
-                m_betweenRecords = false;
+        std::vector<char> buffer(1 << 20);
+        std::size_t begin = 0;
+        std::size_t end = 0;
+        bool eof = false;
+        while (m_error.empty()) {
+            const char* first = buffer.data() + begin;
+            const auto* newline = static_cast<const char*>(std::memchr(first, '\n', end - begin));
+            if (newline) {
+                Line({first, static_cast<std::size_t>(newline - first)});
+                begin = static_cast<std::size_t>(newline - buffer.data()) + 1;
+                continue;
             }
-            text += '\n';
-            failed = csv_parse(&parser, text.data(), text.size(), OnField, OnRecordEnd, this) != text.size();
+            if (eof) {
+                if (end > begin)
+                    Line({first, end - begin});
+                break;
+            }
+            // Keep the unfinished line, make room, read the next block.
+            std::memmove(buffer.data(), first, end - begin);
+            end -= begin;
+            begin = 0;
+            if (end == buffer.size())
+                buffer.resize(buffer.size() * 2);
+            in.read(buffer.data() + end, static_cast<std::streamsize>(buffer.size() - end));
+            end += static_cast<std::size_t>(in.gcount());
+            eof = !in;
         }
-        const bool atEnd = !failed && m_error.empty();
-        if (atEnd)
-            failed = csv_fini(&parser, OnField, OnRecordEnd, this) != 0;
-        const bool quoting = failed && csv_error(&parser) == CSV_EPARSE;
-        const std::string why = failed ? csv_strerror(csv_error(&parser)) : "";
-        csv_free(&parser);
-        if (!m_error.empty())
-            throw DataError(m_error);
-        if (failed && quoting)
-            throw DataError(m_name + " line " + std::to_string(m_recordStart) + ": " +
-                            (atEnd ? "a quoted value is not closed"
-                                   : "badly quoted value (a quote inside an unquoted value, or text after a closing quote)"));
-        if (failed)
-            throw DataError(m_name + " line " + std::to_string(m_line) + ": " + why);
         if (in.bad())
             throw DataError(m_name + ": read error");
+        return Finish();
+    }
+
+private:
+    void Line(std::string_view text)
+    {
+        ++m_line;
+        if (m_line == 1) {
+            if (text.starts_with("\xEF\xBB\xBF"))
+                text.remove_prefix(3); // a byte-order mark says UTF-8, and no more
+            ChooseDelimiter(text);
+        }
+        if (!text.empty() && text.back() == '\r')
+            text.remove_suffix(1);
+        // A record starts on the first line with text after the last record
+        // ended; a quoted value may carry it over more lines.
+        const bool inRecord = !m_betweenRecords;
+        const bool blank = text.find_first_not_of(" \t") == std::string_view::npos;
+        if (!inRecord && !blank) {
+            m_recordStart = m_line;
+            m_betweenRecords = false;
+        }
+        if (inRecord || blank || text.find('"') != std::string_view::npos)
+            return QuotedLine(text);
+        // The fast way: no quote, so every delimiter separates two values.
+        for (std::size_t start = 0;;) {
+            const std::size_t stop = text.find(m_delimiter, start);
+            Field(Trim(text.substr(start, stop == std::string_view::npos ? std::string_view::npos : stop - start)));
+            if (stop == std::string_view::npos || !m_error.empty())
+                break;
+            start = stop + 1;
+        }
+        RecordEnd();
+    }
+
+    void QuotedLine(std::string_view text)
+    {
+        m_quoted.assign(text);
+        m_quoted += '\n';
+        if (csv_parse(&m_parser, m_quoted.data(), m_quoted.size(), OnField, OnRecordEnd, this) != m_quoted.size())
+            ParserFailed(false);
+    }
+
+    DataSheet Finish()
+    {
+        if (m_error.empty() && csv_fini(&m_parser, OnField, OnRecordEnd, this) != 0)
+            ParserFailed(true);
+        if (!m_error.empty())
+            throw DataError(m_error);
         if (!m_haveHeader)
             throw DataError(m_name + " line 1: the file has no header row of variable names");
         for (std::size_t c = 0; c < m_variables.size(); ++c)
@@ -110,37 +228,81 @@ public:
         return DataSheet(std::move(m_variables), m_cases, m_name);
     }
 
-private:
+    void ParserFailed(bool atEnd)
+    {
+        if (!m_error.empty())
+            return;
+        if (csv_error(&m_parser) == CSV_EPARSE)
+            m_error = m_name + " line " + std::to_string(m_recordStart) + ": " +
+                      (atEnd ? "a quoted value is not closed"
+                             : "badly quoted value (a quote inside an unquoted value, or text after a closing quote)");
+        else
+            m_error = m_name + " line " + std::to_string(m_line) + ": " + csv_strerror(csv_error(&m_parser));
+    }
+
+    // A header without a comma but with semicolons or tabs separates its
+    // values with those (as spreadsheets save CSV in some languages).
+    void ChooseDelimiter(std::string_view header)
+    {
+        if (header.find(',') != std::string_view::npos)
+            return;
+        if (header.find(';') != std::string_view::npos)
+            m_delimiter = ';';
+        else if (header.find('\t') != std::string_view::npos)
+            m_delimiter = '\t';
+        csv_set_delim(&m_parser, static_cast<unsigned char>(m_delimiter));
+        if (m_delimiter == '\t')
+            csv_set_space_func(&m_parser, IsBlankOnly);
+    }
+
+    std::string_view Trim(std::string_view field) const
+    {
+        const auto blank = [this](char c) { return c == ' ' || (c == '\t' && m_delimiter != '\t'); };
+        while (!field.empty() && blank(field.front()))
+            field.remove_prefix(1);
+        while (!field.empty() && blank(field.back()))
+            field.remove_suffix(1);
+        return field;
+    }
+
     // The callbacks run inside the C library: they record the first error
     // and ignore the rest instead of throwing through it.
     static void OnField(void* text, std::size_t length, void* self)
     {
         auto& r = *static_cast<CsvSheetReader*>(self);
-        if (!r.m_error.empty())
-            return;
-        const std::string_view field(text ? static_cast<const char*>(text) : "", text ? length : 0);
-        if (!r.m_haveHeader)
-            r.AddVariable(field);
-        else
-            r.AddValue(field);
-        ++r.m_column;
+        r.Field(std::string_view(text ? static_cast<const char*>(text) : "", text ? length : 0));
     }
 
-    static void OnRecordEnd(int, void* self)
+    static void OnRecordEnd(int, void* self) { static_cast<CsvSheetReader*>(self)->RecordEnd(); }
+
+    void Field(std::string_view field)
     {
-        auto& r = *static_cast<CsvSheetReader*>(self);
-        if (!r.m_error.empty())
+        if (!m_error.empty())
             return;
-        if (!r.m_haveHeader) {
-            r.m_haveHeader = true;
+        if (!IsAscii(field) && !IsUtf8(field))
+            return Fail(m_column + 1, "bytes that are not UTF-8 (save the file as UTF-8)");
+        if (!m_haveHeader)
+            AddVariable(field);
+        else
+            AddValue(field);
+        ++m_column;
+    }
+
+    void RecordEnd()
+    {
+        if (!m_error.empty())
+            return;
+        if (!m_haveHeader) {
+            m_haveHeader = true;
+            m_seen = {};
         } else {
-            if (r.m_column < r.m_variables.size())
-                r.Fail(r.m_column + 1, std::to_string(r.m_column) + " values where the header names " +
-                                           std::to_string(r.m_variables.size()) + " variables");
-            ++r.m_cases;
+            if (m_column < m_variables.size())
+                Fail(m_column + 1, std::to_string(m_column) + " values where the header names " +
+                                       std::to_string(m_variables.size()) + " variables");
+            ++m_cases;
         }
-        r.m_column = 0;
-        r.m_betweenRecords = true;
+        m_column = 0;
+        m_betweenRecords = true;
     }
 
     void AddVariable(std::string_view field)
@@ -153,10 +315,10 @@ private:
         for (const unsigned char ch : field)
             if (ch < 0x20 || ch == 0x7F)
                 return Fail(m_column + 1, "the variable name holds a control character");
-        if (const auto it = m_seen.find(name); it != m_seen.end())
+        const auto [it, added] = m_seen.emplace(name, m_column);
+        if (!added)
             return Fail(m_column + 1, "variable name \"" + name + "\" is already used in column " +
                                           std::to_string(it->second + 1));
-        m_seen.emplace(name, m_column);
         m_variables.push_back({CString::FromUtf8(name), NmsEnum::VT_NUMERIC});
         // A name ending in '$' makes a string variable whatever its values.
         m_numeric.push_back(!name.ends_with('$'));
@@ -167,8 +329,19 @@ private:
         if (m_column >= m_variables.size())
             return Fail(m_variables.size() + 1, "more values than the header names variables (" +
                                                     std::to_string(m_variables.size()) + ")");
-        if (m_numeric[m_column] && !IsNumberText(field))
-            m_numeric[m_column] = false;
+        if (!m_numeric[m_column])
+            return;
+        bool decided = false;
+        if (IsPlainNumber(field, decided) || decided)
+            return;
+        // Files that separate values with semicolons write decimal commas.
+        if (m_delimiter == ';' && field.find(',') != std::string_view::npos) {
+            std::string point(field);
+            point[point.find(',')] = '.';
+            m_numeric[m_column] = IsNumberText(point);
+            return;
+        }
+        m_numeric[m_column] = IsNumberText(field);
     }
 
     void Fail(std::size_t column, const std::string& why)
@@ -178,9 +351,12 @@ private:
     }
 
     std::string m_name;
+    csv_parser m_parser{};
+    char m_delimiter = ',';
+    std::string m_quoted;
     std::vector<Variable> m_variables;
     std::vector<bool> m_numeric;
-    std::map<std::string, std::size_t> m_seen;
+    std::unordered_map<std::string, std::size_t> m_seen;
     bool m_haveHeader = false;
     std::size_t m_cases = 0;
     std::size_t m_line = 0;

@@ -74,6 +74,49 @@ TEST(CsvSheet, BadFilesAreRefusedWithLineAndColumn)
               "t.csv line 2: badly quoted value (a quote inside an unquoted value, or text after a closing quote)");
 }
 
+TEST(CsvSheet, ByteOrderMarksOtherDelimitersAndTheEncoding)
+{
+    DataSheet marked = Load("\xEF\xBB\xBFweight,group\n1,a\n");
+    EXPECT_EQ(marked.GetVariableName(0, 1), CString(u"weight")); // the mark is not part of the name
+
+    // A header without a comma but with semicolons or tabs says how the file
+    // separates its values.
+    DataSheet semicolons = Load("a;b;\"c;d\"\n1,5;2;x\n3;4,5,6;\"y\n z\"\n");
+    ASSERT_EQ(semicolons.GetVariableCount(), 3);
+    EXPECT_EQ(semicolons.GetVariableName(2, 1), CString(u"c;d"));
+    EXPECT_EQ(semicolons.GetVariableType(0), NmsEnum::VT_NUMERIC); // with a decimal comma
+    EXPECT_EQ(semicolons.GetVariableType(1), NmsEnum::VT_STRING);  // "4,5,6" is no number
+    EXPECT_EQ(semicolons.CaseCount(), 2u);
+    DataSheet tabs = Load("a b\tc\n 1 \t2\n");
+    EXPECT_EQ(tabs.GetVariableName(0, 1), CString(u"a b"));
+    EXPECT_EQ(tabs.GetVariableType(0), NmsEnum::VT_NUMERIC);
+    EXPECT_EQ(Refusal("a\tb\n1,2\n"), "t.csv line 2, column 2: 1 values where the header names 2 variables");
+
+    // Names in another encoding would decode to other names: refused.
+    EXPECT_EQ(Refusal("dose,\xE9t\xE9\n1,2\n"), "t.csv line 1, column 2: bytes that are not UTF-8 (save the file as UTF-8)");
+    EXPECT_EQ(Refusal("a,b\n1,2\n3,\"caf\xE9\"\n"), "t.csv line 3, column 2: bytes that are not UTF-8 (save the file as UTF-8)");
+    EXPECT_EQ(Refusal("a\n\xC0\xAF\n"), "t.csv line 2, column 1: bytes that are not UTF-8 (save the file as UTF-8)");
+    EXPECT_EQ(Load("d\xC3\xA9j\xC3\xA0,\xE6\x97\xA5\n1,2\n").GetVariableName(1, 1), CString(u"\u65E5"));
+}
+
+TEST(CsvSheet, LongLinesAndManyColumnsCrossTheReadBlocks)
+{
+    std::string csv;
+    for (int c = 0; c < 60000; ++c)
+        csv += (c ? "," : "") + std::string("variable_") + std::to_string(c);
+    csv += '\n';
+    for (int r = 0; r < 3; ++r) {
+        for (int c = 0; c < 60000; ++c)
+            csv += (c ? "," : "") + std::to_string(r * c % 97) + (c == 59999 && r == 2 ? "x" : "");
+        csv += "\r\n";
+    }
+    DataSheet sheet = Load(csv);
+    EXPECT_EQ(sheet.GetVariableCount(), 60000);
+    EXPECT_EQ(sheet.CaseCount(), 3u);
+    EXPECT_EQ(sheet.GetVariableType(59998), NmsEnum::VT_NUMERIC);
+    EXPECT_EQ(sheet.GetVariableType(59999), NmsEnum::VT_STRING);
+}
+
 TEST(CsvSheet, TheBuiltInSampleIsADesignedExperiment)
 {
     DataSheet sheet = DataSheet::Sample();
