@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # One entry point for set-up, build, run and test on a Debian 12 machine.
-#   ./dev.sh run        install what is missing, build, run an ANOVA session on the sample data
+#   ./dev.sh run        install what is missing, build kalhost, run an ANOVA session on the sample data
 #   ./dev.sh test       install what is missing, build both presets, run every test
 #   ./dev.sh fuzz [S]   build the libFuzzer targets with clang, run each S seconds (60)
 #   ./dev.sh bench      build and run the benchmarks
+#   ./dev.sh package    build the Debian package (build/package/*.deb)
 #   ./dev.sh deps       only install the build dependencies
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -28,15 +29,26 @@ deps() {
     "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
 }
 
+# build PRESET [TARGET...]: configure, then build the targets (all without any).
 build() {
-    cmake --preset "$1" >/dev/null
-    cmake --build --preset "$1"
+    local preset="$1"
+    shift
+    cmake --preset "$preset" >/dev/null
+    if [ $# -gt 0 ]; then
+        cmake --build --preset "$preset" --target "$@"
+    else
+        cmake --build --preset "$preset"
+    fi
+}
+
+usage() {
+    sed -n '2,8p' "$0"
 }
 
 case "${1:-}" in
 run)
     deps
-    build default
+    build default kalhost
     echo "== kalhost play samples/anova.kal"
     build/default/bin/kalhost play samples/anova.kal
     ;;
@@ -48,9 +60,14 @@ test)
     ctest --preset asan
     ;;
 fuzz)
+    seconds="${2:-60}"
+    if ! [[ "$seconds" =~ ^[0-9]+$ ]]; then
+        echo "usage: ./dev.sh fuzz [SECONDS]   run every fuzz target SECONDS seconds (default 60)"
+        [ "$seconds" = --help ] || [ "$seconds" = -h ] && exit 0
+        exit 2
+    fi
     deps
     build fuzz
-    seconds="${2:-60}"
     for corpus in fuzz/corpus/*/; do
         name="fuzz_$(basename "$corpus" | tr - _)"
         work="build/fuzz/corpus/$(basename "$corpus")"
@@ -65,11 +82,21 @@ bench)
     build default
     for b in build/default/bin/bench_*; do "$b"; done
     ;;
+package)
+    deps
+    cmake -S . -B build/package -G Ninja -DCMAKE_BUILD_TYPE=Release -DKAL_BUILD_TESTS=OFF -DKAL_BUILD_BENCH=OFF >/dev/null
+    cmake --build build/package
+    (cd build/package && cpack -G DEB)
+    ls build/package/*.deb
+    ;;
 deps)
     deps
     ;;
+-h|--help|help)
+    usage
+    ;;
 *)
-    sed -n '2,8p' "$0"
+    usage
     exit 2
     ;;
 esac
