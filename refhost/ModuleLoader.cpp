@@ -99,7 +99,14 @@ std::filesystem::path DefaultModulePath()
 {
     std::error_code error;
     const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
-    return (error ? std::filesystem::current_path() : self.parent_path()) / "libKalDlgStat2.so";
+    const std::filesystem::path bin = error ? std::filesystem::current_path() : self.parent_path();
+    // Beside kalhost in a build tree; in the module folder of an installed
+    // tree, wherever that tree was moved.
+    const std::filesystem::path beside = bin / "libKalDlgStat2.so";
+    const std::filesystem::path installed = bin / KAL_MODULEDIR_FROM_BINDIR / "libKalDlgStat2.so";
+    return std::filesystem::exists(beside, error) || !std::filesystem::exists(installed, error)
+               ? beside
+               : installed.lexically_normal();
 }
 
 } // namespace kalhost
