@@ -45,6 +45,29 @@ constexpr char32_t kReplacement = 0xFFFD;
 
 } // namespace
 
+const std::u16string& CString::EmptyText()
+{
+    static const std::u16string empty;
+    return empty;
+}
+
+void CString::Free(Rep* rep) noexcept
+{
+    delete rep;
+}
+
+std::u16string& CString::Mutable()
+{
+    if (!m_rep) {
+        m_rep = new Rep{1, {}};
+    } else if (m_rep->refs > 1) {
+        Rep* own = new Rep{1, m_rep->text};
+        --m_rep->refs;
+        m_rep = own;
+    }
+    return m_rep->text;
+}
+
 CString CString::FromUtf8(std::string_view utf8)
 {
     std::u16string out;
@@ -87,12 +110,13 @@ CString CString::FromLatin1(std::string_view bytes)
 
 std::string CString::ToUtf8() const
 {
+    const std::u16string& text = Str();
     std::string out;
-    out.reserve(m_str.size());
-    for (std::size_t i = 0; i < m_str.size(); ++i) {
-        char32_t cp = m_str[i];
-        if (cp >= 0xD800 && cp <= 0xDBFF && i + 1 < m_str.size() && m_str[i + 1] >= 0xDC00 && m_str[i + 1] <= 0xDFFF) {
-            cp = 0x10000 + ((cp - 0xD800) << 10) + (m_str[i + 1] - 0xDC00);
+    out.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        char32_t cp = text[i];
+        if (cp >= 0xD800 && cp <= 0xDBFF && i + 1 < text.size() && text[i + 1] >= 0xDC00 && text[i + 1] <= 0xDFFF) {
+            cp = 0x10000 + ((cp - 0xD800) << 10) + (text[i + 1] - 0xDC00);
             ++i;
         } else if (cp >= 0xD800 && cp <= 0xDFFF) {
             cp = kReplacement;
@@ -106,7 +130,7 @@ int CString::Find(char16_t ch, int start) const
 {
     if (start < 0 || start > GetLength())
         return -1;
-    const auto pos = m_str.find(ch, static_cast<std::size_t>(start));
+    const auto pos = Str().find(ch, static_cast<std::size_t>(start));
     return pos == std::u16string::npos ? -1 : static_cast<int>(pos);
 }
 
@@ -114,13 +138,13 @@ int CString::Find(std::u16string_view sub, int start) const
 {
     if (start < 0 || start > GetLength())
         return -1;
-    const auto pos = m_str.find(sub, static_cast<std::size_t>(start));
+    const auto pos = Str().find(sub, static_cast<std::size_t>(start));
     return pos == std::u16string::npos ? -1 : static_cast<int>(pos);
 }
 
 int CString::ReverseFind(char16_t ch) const
 {
-    const auto pos = m_str.rfind(ch);
+    const auto pos = Str().rfind(ch);
     return pos == std::u16string::npos ? -1 : static_cast<int>(pos);
 }
 
@@ -128,33 +152,37 @@ int CString::Replace(std::u16string_view oldText, std::u16string_view newText)
 {
     if (oldText.empty())
         return 0;
+    const std::u16string& text = Str();
     std::u16string out;
     int count = 0;
     std::size_t from = 0;
-    for (auto pos = m_str.find(oldText); pos != std::u16string::npos; pos = m_str.find(oldText, from)) {
-        out.append(m_str, from, pos - from);
+    for (auto pos = text.find(oldText); pos != std::u16string::npos; pos = text.find(oldText, from)) {
+        out.append(text, from, pos - from);
         out += newText;
         from = pos + oldText.size();
         ++count;
     }
     if (count > 0) {
-        out.append(m_str, from, std::u16string::npos);
-        m_str = std::move(out);
+        out.append(text, from, std::u16string::npos);
+        *this = CString(std::move(out));
     }
     return count;
 }
 
 int CString::Remove(char16_t ch)
 {
-    const auto before = m_str.size();
-    std::erase(m_str, ch);
-    return static_cast<int>(before - m_str.size());
+    if (Find(ch) < 0)
+        return 0;
+    std::u16string& text = Mutable();
+    const auto before = text.size();
+    std::erase(text, ch);
+    return static_cast<int>(before - text.size());
 }
 
 CString CString::Left(int count) const
 {
     count = std::clamp(count, 0, GetLength());
-    return CString(m_str.substr(0, static_cast<std::size_t>(count)));
+    return count == GetLength() ? *this : CString(Str().substr(0, static_cast<std::size_t>(count)));
 }
 
 CString CString::Mid(int first) const
@@ -166,26 +194,33 @@ CString CString::Mid(int first, int count) const
 {
     first = std::clamp(first, 0, GetLength());
     count = std::clamp(count, 0, GetLength() - first);
-    return CString(m_str.substr(static_cast<std::size_t>(first), static_cast<std::size_t>(count)));
+    if (first == 0 && count == GetLength())
+        return *this;
+    return CString(Str().substr(static_cast<std::size_t>(first), static_cast<std::size_t>(count)));
 }
 
 CString CString::Right(int count) const
 {
     count = std::clamp(count, 0, GetLength());
-    return CString(m_str.substr(m_str.size() - static_cast<std::size_t>(count)));
+    return count == GetLength() ? *this : CString(Str().substr(Str().size() - static_cast<std::size_t>(count)));
 }
 
 CString& CString::TrimLeft()
 {
-    const auto it = std::find_if_not(m_str.begin(), m_str.end(), IsBlank);
-    m_str.erase(m_str.begin(), it);
+    const std::u16string& text = Str();
+    const auto blanks = std::find_if_not(text.begin(), text.end(), IsBlank) - text.begin();
+    if (blanks > 0)
+        Mutable().erase(0, static_cast<std::size_t>(blanks));
     return *this;
 }
 
 CString& CString::TrimRight()
 {
-    while (!m_str.empty() && IsBlank(m_str.back()))
-        m_str.pop_back();
+    if (!IsEmpty() && IsBlank(Str().back())) {
+        std::u16string& text = Mutable();
+        while (!text.empty() && IsBlank(text.back()))
+            text.pop_back();
+    }
     return *this;
 }
 
@@ -196,21 +231,27 @@ CString& CString::Trim()
 
 CString& CString::TrimLeft(char16_t ch)
 {
-    const auto first = m_str.find_first_not_of(ch);
-    m_str.erase(0, first == std::u16string::npos ? m_str.size() : first);
+    const auto first = Str().find_first_not_of(ch);
+    if (first != 0)
+        Mutable().erase(0, first == std::u16string::npos ? Str().size() : first);
     return *this;
 }
 
 CString& CString::TrimRight(char16_t ch)
 {
-    while (!m_str.empty() && m_str.back() == ch)
-        m_str.pop_back();
+    if (!IsEmpty() && Str().back() == ch) {
+        std::u16string& text = Mutable();
+        while (!text.empty() && text.back() == ch)
+            text.pop_back();
+    }
     return *this;
 }
 
 CString& CString::MakeUpper()
 {
-    for (auto& ch : m_str)
+    if (std::none_of(Str().begin(), Str().end(), [](char16_t ch) { return ch >= u'a' && ch <= u'z'; }))
+        return *this;
+    for (auto& ch : Mutable())
         if (ch >= u'a' && ch <= u'z')
             ch = static_cast<char16_t>(ch - u'a' + u'A');
     return *this;

@@ -1,6 +1,11 @@
 // CString: the desktop framework's wide string, held as UTF-16 code units.
 // Value semantics; conversion to and from UTF-8 happens only at the edges
 // (files, terminals), never inside the module.
+//
+// Like the framework's own string, copies share one buffer until one of
+// them changes: a variable's name copied into lists, list controls and
+// indexes costs a count, not an allocation. The count is not atomic: the
+// module's strings live on the host's user-interface thread.
 #pragma once
 
 #include <compare>
@@ -12,25 +17,55 @@
 class CString {
 public:
     CString() = default;
-    CString(const char16_t* text) : m_str(text ? text : u"") {}
-    CString(std::u16string text) : m_str(std::move(text)) {}
-    CString(std::u16string_view text) : m_str(text) {}
-    CString(char16_t ch, int count = 1) : m_str(count > 0 ? static_cast<std::size_t>(count) : 0, ch) {}
+    CString(const char16_t* text) : CString(std::u16string_view(text ? text : u"")) {}
+    CString(std::u16string text) : m_rep(text.empty() ? nullptr : new Rep{1, std::move(text)}) {}
+    CString(std::u16string_view text) : m_rep(text.empty() ? nullptr : new Rep{1, std::u16string(text)}) {}
+    CString(char16_t ch, int count = 1) : CString(std::u16string(count > 0 ? static_cast<std::size_t>(count) : 0, ch))
+    {
+    }
+    CString(const CString& other) noexcept : m_rep(other.m_rep)
+    {
+        if (m_rep)
+            ++m_rep->refs;
+    }
+    CString(CString&& other) noexcept : m_rep(other.m_rep) { other.m_rep = nullptr; }
+    CString& operator=(const CString& other) noexcept
+    {
+        Rep* shared = other.m_rep; // counted first: `other` may be this string
+        if (shared)
+            ++shared->refs;
+        Release();
+        m_rep = shared;
+        return *this;
+    }
+    CString& operator=(CString&& other) noexcept
+    {
+        if (this != &other) {
+            Release();
+            m_rep = other.m_rep;
+            other.m_rep = nullptr;
+        }
+        return *this;
+    }
+    ~CString() { Release(); }
+    void swap(CString& other) noexcept { std::swap(m_rep, other.m_rep); }
 
     static CString FromUtf8(std::string_view utf8);
     // 8-bit text of the framework's single-byte code page (Latin-1 here).
     static CString FromLatin1(std::string_view bytes);
     std::string ToUtf8() const;
 
-    int GetLength() const { return static_cast<int>(m_str.size()); }
-    bool IsEmpty() const { return m_str.empty(); }
-    void Empty() { m_str.clear(); }
-    char16_t GetAt(int index) const { return m_str.at(static_cast<std::size_t>(index)); }
+    int GetLength() const { return static_cast<int>(Str().size()); }
+    bool IsEmpty() const { return !m_rep || m_rep->text.empty(); }
+    void Empty() { CString().swap(*this); }
+    char16_t GetAt(int index) const { return Str().at(static_cast<std::size_t>(index)); }
     char16_t operator[](int index) const { return GetAt(index); }
-    void SetAt(int index, char16_t ch) { m_str.at(static_cast<std::size_t>(index)) = ch; }
-    const char16_t* GetString() const { return m_str.c_str(); }
-    const std::u16string& Str() const { return m_str; }
-    operator std::u16string_view() const { return m_str; }
+    void SetAt(int index, char16_t ch) { Mutable().at(static_cast<std::size_t>(index)) = ch; }
+    const char16_t* GetString() const { return Str().c_str(); }
+    const std::u16string& Str() const { return m_rep ? m_rep->text : EmptyText(); }
+    operator std::u16string_view() const { return Str(); }
+    // Whether this string shares its buffer with `other` (no copy was made).
+    bool SharesBufferWith(const CString& other) const { return m_rep && m_rep == other.m_rep; }
 
     // -1 when not found, as in the framework.
     int Find(char16_t ch, int start = 0) const;
@@ -64,21 +99,56 @@ public:
     static CString FromNumber(unsigned int value);
     static CString FromNumber(double value, char16_t decimalSeparator = u'.');
 
-    CString& operator+=(const CString& other) { m_str += other.m_str; return *this; }
-    CString& operator+=(const char16_t* other) { m_str += other; return *this; }
-    CString& operator+=(char16_t ch) { m_str += ch; return *this; }
+    CString& operator+=(const CString& other)
+    {
+        if (IsEmpty())
+            return *this = other;
+        Mutable() += other.Str();
+        return *this;
+    }
+    CString& operator+=(std::u16string_view other)
+    {
+        if (!other.empty())
+            Mutable() += other;
+        return *this;
+    }
+    CString& operator+=(const char16_t* other) { return *this += std::u16string_view(other ? other : u""); }
+    CString& operator+=(char16_t ch)
+    {
+        Mutable() += ch;
+        return *this;
+    }
+    // Room for `length` units, so that a line built piece by piece grows once.
+    void Reserve(int length) { Mutable().reserve(static_cast<std::size_t>(length > 0 ? length : 0)); }
 
     friend CString operator+(CString a, const CString& b) { a += b; return a; }
     friend CString operator+(CString a, const char16_t* b) { a += b; return a; }
     friend CString operator+(const char16_t* a, const CString& b) { return CString(a) += b; }
     friend CString operator+(CString a, char16_t b) { a += b; return a; }
 
-    friend bool operator==(const CString& a, const CString& b) = default;
-    friend std::strong_ordering operator<=>(const CString& a, const CString& b) = default;
-    friend bool operator==(const CString& a, const char16_t* b) { return a.m_str == (b ? b : u""); }
+    friend bool operator==(const CString& a, const CString& b) { return a.m_rep == b.m_rep || a.Str() == b.Str(); }
+    friend std::strong_ordering operator<=>(const CString& a, const CString& b) { return a.Str() <=> b.Str(); }
+    friend bool operator==(const CString& a, const char16_t* b) { return a.Str() == (b ? b : u""); }
 
 private:
-    std::u16string m_str;
+    struct Rep {
+        long refs;
+        std::u16string text;
+    };
+
+    static const std::u16string& EmptyText();
+    // The text to change: this string's own buffer, copied first when shared.
+    std::u16string& Mutable();
+    void Release() noexcept
+    {
+        if (m_rep && --m_rep->refs == 0)
+            Free(m_rep);
+        m_rep = nullptr;
+    }
+    // Out of line: the last owner frees the buffer.
+    static void Free(Rep* rep) noexcept;
+
+    Rep* m_rep = nullptr; // null: the empty string
 };
 
 template <>

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <vector>
+
 TEST(CStringText, EditingOperationsFollowTheFramework)
 {
     CString s(u"  DEPEND Y / X  ");
@@ -55,4 +58,40 @@ TEST(CStringText, ControlCharactersAreDetected)
     EXPECT_TRUE(ContainsControlCharacter(CString(u"tab\there")));
     EXPECT_TRUE(ContainsControlCharacter(CString(std::u16string(u"nul\0x", 5))));
     EXPECT_TRUE(ContainsControlCharacter(CString(u"del\u007F")));
+}
+
+TEST(CStringSharing, CopiesShareTheBufferUntilOneOfThemChanges)
+{
+    const CString name(u"dose level");
+    CString copy = name;
+    EXPECT_TRUE(copy.SharesBufferWith(name));
+    // Every way of changing a copy leaves the original as it was.
+    const std::vector<std::function<void(CString&)>> edits = {
+        [](CString& s) { s += u"!"; },        [](CString& s) { s.SetAt(0, u'D'); },
+        [](CString& s) { s.Replace(u" ", u"_"); }, [](CString& s) { s.Remove(u'e'); },
+        [](CString& s) { s.TrimLeft(u'd'); },  [](CString& s) { s.MakeUpper(); },
+        [](CString& s) { s.Empty(); },         [](CString& s) { s = CString(u"x"); },
+    };
+    for (const auto& edit : edits) {
+        CString changed = name;
+        edit(changed);
+        EXPECT_FALSE(changed.SharesBufferWith(name));
+        EXPECT_EQ(name, CString(u"dose level"));
+    }
+
+    // Assigning a string to itself, and appending it to itself.
+    copy = copy;
+    EXPECT_EQ(copy, name);
+    CString twice = name;
+    twice += twice;
+    EXPECT_EQ(twice, CString(u"dose leveldose level"));
+    EXPECT_EQ(name, CString(u"dose level"));
+
+    // Parts that are the whole share too; empty strings own nothing.
+    EXPECT_TRUE(name.Mid(0).SharesBufferWith(name));
+    EXPECT_FALSE(name.Left(4).SharesBufferWith(name));
+    CString moved = std::move(copy);
+    EXPECT_TRUE(moved.SharesBufferWith(name));
+    EXPECT_TRUE(copy.IsEmpty()); // NOLINT(bugprone-use-after-move): a moved-from string is empty
+    EXPECT_FALSE(CString().SharesBufferWith(CString()));
 }
