@@ -1,5 +1,8 @@
 #include "Msg/RegressionMsg.h"
 
+#include "Msg/LaunchDialog.h"
+#include "private/Regression/KDGRegressionTabDlg.h"
+
 namespace {
 
 const MenuCommandRow kRows[] = {
@@ -12,7 +15,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2031, CNonLinLossTabDlg, CNonLinLossTabData, 2204, 2203),
     KAL_MENU_ROW_UNAVAILABLE(2032, CProbitTabDlg, CProbitTabData, 2251, 2043),
     KAL_MENU_ROW_UNAVAILABLE(2050, CBayesianDlg, CBayesianData),
-    KAL_MENU_ROW_UNAVAILABLE(2051, CRegressionTabDlg, CRegressionTabData, 2261),
+    KAL_MENU_ROW(2051, CRegressionTabDlg, CRegressionTabData, 2261),
     KAL_MENU_ROW_UNAVAILABLE(2052, CRidgeRegressionDlg, CRidgeRegressionData),
     KAL_MENU_ROW_UNAVAILABLE(2053, CLadregDlg, CLadregData),
     KAL_MENU_ROW_UNAVAILABLE(2054, CMregLmsregTabDlg, CMregLmsregTabData, 2385, 2144),

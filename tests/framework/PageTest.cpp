@@ -302,6 +302,21 @@ TEST_F(Page, RoleListsMoveByButtonMenuDragAndDoubleClick)
     EXPECT_EQ(data.m_One.GetSize(), 0);
 }
 
+TEST_F(Page, ADoubleClickedTargetListGivesBackItsOwnSelectionOnly)
+{
+    CProbeData data;
+    Run(data, [](CHeadlessSession& s, CProbePage&) {
+        s.Select(SOURCE, Items({u"Y"}));
+        s.Click(ADD_NUMBERS); // Y stays selected where it arrived
+        s.Select(SOURCE, Items({u"X"}));
+        s.Click(ADD_ONE);
+        s.DoubleClick(ONE);
+        EXPECT_TRUE(s.Items(ONE).empty());
+        EXPECT_EQ(s.Items(NUMBERS), Items({u"Y"}));
+        s.Cancel();
+    });
+}
+
 TEST_F(Page, TabPagesGetTheirSettingsInPageOrderAndAnswerThroughTheTab)
 {
     CProbeTabData data;

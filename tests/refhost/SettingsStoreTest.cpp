@@ -44,7 +44,7 @@ TEST(SettingsStoreFile, RoundTripsObjectsAndCarriesUnknownClasses)
     {
         SettingsStore store;
         store.Register(2008, Anova());
-        WriteStoreFile(file, {{2051, "CRegressionTabData", {1, 2, 3}}});
+        WriteStoreFile(file, {{2052, "CRidgeRegressionData", {1, 2, 3}}});
         SettingsStore withForeign;
         withForeign.Load(file);
         withForeign.Register(2008, Anova());
@@ -56,7 +56,7 @@ TEST(SettingsStoreFile, RoundTripsObjectsAndCarriesUnknownClasses)
     EXPECT_EQ(LinesOf(*loaded.Get(2008)), LinesOf(*std::unique_ptr<CAnovaTabData>(Anova())));
     const auto entries = ReadStoreFile(file);
     ASSERT_EQ(entries.size(), 2u);
-    EXPECT_EQ(entries[0].className, "CRegressionTabData");
+    EXPECT_EQ(entries[0].className, "CRidgeRegressionData");
     EXPECT_EQ(entries[0].record, (std::vector<BYTE>{1, 2, 3}));
     EXPECT_EQ(entries[1].className, "CAnovaTabData");
     // No temporary file is left behind.

@@ -72,6 +72,8 @@ public:
 
     FakeSheet sheet;
     bool hasSheet = true;
+    int dataTypeCode = KAL_DATA_ORDINARY; // the kind of the sheet, when there is one
+    CString commandModule;                // what GetCurrentCommandModule answers
     bool writeEveryOption = false;
     char16_t decimalSeparator = u'.';
     bool restrictedMode = false;
@@ -98,8 +100,8 @@ public:
     bool IsReplayMode() override { return replayMode; }
     IMainFrame* GetMainFrame() override { return this; }
     IDataSheet* GetActiveDataSheet() override { return hasSheet ? &sheet : nullptr; }
-    int GetDataTypeCode() override { return hasSheet ? 1 : 0; }
-    CString GetCurrentCommandModule() override { return {}; }
+    int GetDataTypeCode() override { return hasSheet ? dataTypeCode : KAL_DATA_NONE; }
+    CString GetCurrentCommandModule() override { return commandModule; }
     int GetOutputLevel() override { return 2; }
     bool IsRestrictedMode() override { return restrictedMode; }
     int GetEditLevel() override { return editLevel; }

@@ -1,0 +1,3 @@
+#include "private/Regression/KDGRegressionTabData.h"
+
+IMPLEMENT_SERIAL(CRegressionTabData, CGUITabData, 1)
