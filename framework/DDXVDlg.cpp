@@ -12,9 +12,13 @@ IMPLEMENT_DYNAMIC(CDDXVDlg, CDialog)
 
 namespace {
 
-// Whole-text numbers, the host's decimal separator accepted beside '.'.
+enum class Parsed { ok, notANumber, outOfRange };
+
+// Whole-text numbers, the host's decimal separator accepted beside '.'. A
+// number of the right form that the holder's type cannot hold is out of
+// range, not malformed.
 template <class T>
-bool Parse(CString text, T& value)
+Parsed Parse(CString text, T& value)
 {
     text.Trim();
     const char16_t separator = kal::framework::DecimalSeparator();
@@ -22,9 +26,13 @@ bool Parse(CString text, T& value)
         text.Replace(std::u16string_view(&separator, 1), u".");
     const std::string s = text.ToUtf8();
     if (s.empty() || s[0] == '+')
-        return false;
+        return Parsed::notANumber;
     const auto [end, error] = std::from_chars(s.data(), s.data() + s.size(), value);
-    return error == std::errc() && end == s.data() + s.size();
+    if (end != s.data() + s.size())
+        return Parsed::notANumber;
+    if (error == std::errc::result_out_of_range)
+        return Parsed::outOfRange;
+    return error == std::errc() ? Parsed::ok : Parsed::notANumber;
 }
 
 bool IsFinite(double v)
@@ -51,8 +59,9 @@ void CDDXVDlg::ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, U
         return;
     }
     T parsed{};
-    if (!Parse(control->GetWindowText(), parsed) || !IsFinite(parsed)) {
-        AfxMessageBox(messageId);
+    const Parsed result = Parse(control->GetWindowText(), parsed);
+    if (result != Parsed::ok || !IsFinite(parsed)) {
+        AfxMessageBox(result == Parsed::outOfRange ? kMsgOutOfRange : messageId);
         pDX->Fail();
     }
     value.m_Value = parsed;

@@ -12,11 +12,14 @@ class CFileEditCtrl;
 class CDDXVDlg : public CDialog {
     DECLARE_DYNAMIC(CDDXVDlg)
 public:
+    static constexpr UINT kMsgOutOfRange = 2012;
+
     using CDialog::CDialog;
 
     // An edited number. Loading shows the value; storing reads it (message
-    // `messageId` when it is not a number of the holder's type) and sets
-    // m_nState: 1 when the value equals m_DefaultValue, else 0.
+    // `messageId` when it is not a number of the holder's type, 2012 when it
+    // is one too large for it) and sets m_nState: 1 when the value equals
+    // m_DefaultValue, else 0.
     static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<int>& value, UINT messageId);
     static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<unsigned int>& value, UINT messageId);
     static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<double>& value, UINT messageId);

@@ -237,6 +237,14 @@ int CGUIBaseDlg::GetComboCurSel(UINT id) const
     return combo ? combo->GetCurSel() : -1;
 }
 
+bool CGUIBaseDlg::IsCtrlInUse(UINT id) const
+{
+    for (const CWnd* w = GetDlgItem(id); w; w = w->GetParent())
+        if (!w->CWnd::IsWindowEnabled())
+            return false;
+    return GetDlgItem(id) != nullptr;
+}
+
 BOOL CGUIBaseDlg::IsCtrlEnabled(UINT id) const
 {
     const CWnd* control = GetDlgItem(id);
@@ -586,7 +594,7 @@ void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field,
 void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CString& value)
 {
     CDDXVDlg::DDX_Text(pDX, field.control, value, 0, 0, 1, 0);
-    if (pDX->m_bSaveAndValidate && IsCtrlEnabled(field.control)) {
+    if (pDX->m_bSaveAndValidate && IsCtrlInUse(field.control)) {
         // A text goes into a command line: it may not start a line of its own.
         const bool missing = field.requiredBy && IsDlgButtonChecked(field.requiredBy) && value.IsEmpty();
         if (missing || ContainsControlCharacter(value)) {
@@ -609,7 +617,7 @@ void CGUIBaseDlg::ExchangeNumberField(CDataExchange* pDX, const CFieldExchange& 
                                       UINT parseMessage)
 {
     DDX_KVText(pDX, field.control, value, parseMessage);
-    if (!pDX->m_bSaveAndValidate || field.rangeMessage == 0 || !IsCtrlEnabled(field.control))
+    if (!pDX->m_bSaveAndValidate || field.rangeMessage == 0 || !IsCtrlInUse(field.control))
         return;
     const double v = static_cast<double>(value.m_Value);
     if (v < field.min || v > field.max) {

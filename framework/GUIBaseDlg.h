@@ -182,6 +182,9 @@ public:
     CComboBox* GetComboBoxWnd(UINT id) const;
     int GetComboCurSel(UINT id) const;
     BOOL IsCtrlEnabled(UINT id) const;
+    // Whether the user can reach the control: it and every window above it
+    // (its page, the tab dialog) are enabled. Entries are checked only then.
+    bool IsCtrlInUse(UINT id) const;
     void EnableCtrl(UINT id, BOOL enable);
     void ShowCtrl(UINT id, BOOL show);
 

@@ -68,7 +68,8 @@ public:
                      &GetDefaultIncludeConstantCheck),
             F::Value(&CRegressionData::m_SaveCheck, Ids::IDC_SAVE_CHECK, &GetDefaultSaveCheck),
             F::Value(&CRegressionData::m_SaveCombo, Ids::IDC_SAVE_COMBO, &GetDefaultSaveCombo),
-            F::Value(&CRegressionData::m_SaveEdit, Ids::IDC_SAVE_EDIT, &GetDefaultSaveEdit),
+            F::Value(&CRegressionData::m_SaveEdit, Ids::IDC_SAVE_EDIT, &GetDefaultSaveEdit)
+                .RequiredBy(Ids::IDC_SAVE_CHECK),
             F::Value(&CRegressionData::m_nStateWord, 0, &InitialStateWord),
         };
     }

@@ -55,8 +55,8 @@ public:
         using Ids = CRegressionPredictDlgIds;
         using D = CRegressionPredictData;
         return std::tuple{
-            F::Value(&D::m_UseEdit, Ids::IDC_USE_EDIT, &GetDefaultUseEdit).OpenFile(),
-            F::Value(&D::m_SaveEdit, Ids::IDC_SAVE_EDIT, &GetDefaultSaveEdit),
+            F::Value(&D::m_UseEdit, Ids::IDC_USE_EDIT, &GetDefaultUseEdit).OpenFile().RequiredBy(Ids::IDC_PREDICT),
+            F::Value(&D::m_SaveEdit, Ids::IDC_SAVE_EDIT, &GetDefaultSaveEdit).RequiredBy(Ids::IDC_SAVE_CHECK),
             F::Value(&D::m_Confidence, Ids::IDC_CONFIDENCE, &GetDefaultConfidenceEdit).Range(0, 1),
             F::Value(&D::m_PredictCheck, Ids::IDC_PREDICT, &GetDefaultPredictCheck),
             F::Value(&D::m_SaveCheck, Ids::IDC_SAVE_CHECK, &GetDefaultSaveCheck),

@@ -251,10 +251,10 @@ TEST_F(RegressionDialog, EveryNumericEditRefusesBadEntriesAndKeepsTheFocus)
         std::u16string outOfRange; // besides a negative number
         std::vector<UINT> messages; // for text, a negative, outOfRange, an empty edit
     };
-    // 2010: not a number, 2011: not a whole number, 2012: out of range. A
-    // whole number beyond the edit's type is not a whole number it can hold.
+    // 2010: not a number, 2011: not a whole number, 2012: out of range, a
+    // whole number beyond the edit's type included.
     const Edit edits[] = {
-        {kModel, Model::IDC_CASES, u"2147483648", {2011, 2012, 2011, 2011}},
+        {kModel, Model::IDC_CASES, u"2147483648", {2011, 2012, 2012, 2011}},
         {kEstimation, Estimation::IDC_TOLERANCE, u"1.5", {2010, 2012, 2012, 2010}},
         {kEstimation, Estimation::IDC_CONFIDENCE, u"1.01", {2010, 2012, 2012, 2010}},
         {kEstimation, Estimation::IDC_PROBABILITY_ENTER, u"2", {2010, 2012, 2012, 2010}},
@@ -262,7 +262,7 @@ TEST_F(RegressionDialog, EveryNumericEditRefusesBadEntriesAndKeepsTheFocus)
         {kEstimation, Estimation::IDC_FENTER, u"100001", {2010, 2012, 2012, 2010}},
         {kEstimation, Estimation::IDC_FREMOVE, u"1e6", {2010, 2012, 2012, 2010}},
         {kEstimation, Estimation::IDC_MAXSTEP, u"0", {2011, 2012, 2012, 2011}},
-        {kEstimation, Estimation::IDC_FORCE, u"2147483648", {2011, 2012, 2011, 2011}},
+        {kEstimation, Estimation::IDC_FORCE, u"2147483648", {2011, 2012, 2012, 2011}},
         {kPrediction, Predict::IDC_CONFIDENCE, u"100", {2010, 2012, 2012, 2010}},
     };
     host.dataTypeCode = KAL_DATA_MATRIX; // the number of cases is in use
@@ -280,6 +280,7 @@ TEST_F(RegressionDialog, EveryNumericEditRefusesBadEntriesAndKeepsTheFocus)
             if (!stepwise) {
                 s.Page(kPrediction);
                 s.Check(Predict::IDC_PREDICT, 1);
+                s.Type(Predict::IDC_USE_EDIT, u"new cases.kvd"); // a prediction needs its file
             }
             s.Page(e.page);
             const CString good = s.Text(e.id);
