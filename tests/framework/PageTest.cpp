@@ -90,6 +90,29 @@ public:
     CString m_File;
 };
 
+// A page with one optional number: empty stands for its default.
+constexpr const char* kOptionalTemplate = R"({"dialogs": [{"id": 9120, "caption": "Optional", "size": [100, 40],
+    "controls": [{"id": 9121, "kind": "edit", "rect": [0, 0, 60, 13]}]}]})";
+
+class COptionalData : public CGUIBaseObj {
+public:
+    COptionalData() { kal::ResetFields(*this); }
+    static CGUIData<double> GetDefaultBound() { return CGUIData<double>(0.0); }
+    int GetAll(CGUIData<double>& bound) const { return kal::CopyFieldsOut(*this, bound); }
+    int SetAll(const CGUIData<double>& bound) { return kal::CopyFieldsIn(*this, bound); }
+    static constexpr auto Fields()
+    {
+        using F = kal::FieldsOf<COptionalData>;
+        return std::tuple{F::Value(&COptionalData::m_Bound, 9121, &GetDefaultBound).Range(0, 1).Optional()};
+    }
+    CGUIData<double> m_Bound;
+};
+
+class COptionalPage : public CGUIPageDlg<COptionalData> {
+public:
+    COptionalPage() : CGUIPageDlg(9120, nullptr) {}
+};
+
 class CProbePage : public CGUIPageDlg<CProbeData> {
 public:
     explicit CProbePage(CWnd* parent = nullptr) : CGUIPageDlg(IDD_PROBE, parent)
@@ -254,6 +277,52 @@ TEST_F(Page, RefusedEntriesKeepThePageOpenOnTheirControl)
         EXPECT_FALSE(s.IsOpen());
     });
     EXPECT_EQ(data.m_Level.m_Value, 7);
+}
+
+TEST_F(Page, AnOptionalNumberIsEmptyAtItsDefaultAndEmptyGivesTheDefaultBack)
+{
+    host.Resources().AddFile("optional.json", kOptionalTemplate);
+    COptionalData data;
+    const auto run = [&](const std::function<void(CHeadlessSession&)>& script) {
+        COptionalPage page;
+        page.SetData(&data);
+        driver.SetScript(script);
+        return page.DoModal();
+    };
+    run([](CHeadlessSession& s) {
+        EXPECT_EQ(s.Text(9121), CString());
+        s.Type(9121, u"0.25");
+        s.Ok();
+    });
+    EXPECT_EQ(data.m_Bound, CGUIData<double>(0, 0.25, 0.0, 0, 1));
+
+    // A value the user gave is shown; blanks give the default back; a
+    // typed default counts as none given.
+    run([](CHeadlessSession& s) {
+        EXPECT_EQ(s.Text(9121), CString(u"0.25"));
+        s.Type(9121, u"  ");
+        s.Ok();
+    });
+    EXPECT_EQ(data.m_Bound, CGUIData<double>(0.0));
+    run([](CHeadlessSession& s) {
+        s.Type(9121, u"0");
+        s.Ok();
+    });
+    EXPECT_EQ(data.m_Bound, CGUIData<double>(0.0));
+
+    // Anything else is read as usual: refused when not a number or out of
+    // range.
+    EXPECT_EQ(run([](CHeadlessSession& s) {
+                  s.Type(9121, u"x");
+                  s.Ok();
+                  s.Type(9121, u"-1");
+                  s.Ok();
+                  EXPECT_TRUE(s.IsOpen());
+                  s.Cancel();
+              }),
+              IDCANCEL);
+    EXPECT_EQ(host.messages, (std::vector<UINT>{2010, 2012}));
+    EXPECT_EQ(data.m_Bound, CGUIData<double>(0.0));
 }
 
 TEST_F(Page, RoleListsMoveByButtonMenuDragAndDoubleClick)
