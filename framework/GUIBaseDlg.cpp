@@ -431,7 +431,11 @@ void CGUIBaseDlg::MoveSourceListToTargetListOnDblClk()
 
 void CGUIBaseDlg::MoveTargetListOnDblClk()
 {
+    // The list double-clicked gives its selection back; without one, the
+    // first target list that has a selection.
     for (const auto& row : m_roleLists) {
+        if (m_pDblClkList && &ListCtrl(row.list) != m_pDblClkList)
+            continue;
         if (ListCtrl(row.list).GetSelectedCount() > 0 && IsCtrlEnabled(row.remove)) {
             RunButtonHandler(row.remove);
             UpdateDependentWindows();
@@ -444,8 +448,11 @@ void CGUIBaseDlg::OnDblclkListCtrl(NMHDR* pNMHDR, LRESULT*)
 {
     if (pNMHDR && m_pSourceList && pNMHDR->hwndFrom == m_pSourceList)
         MoveSourceListToTargetListOnDblClk();
-    else if (pNMHDR && FindRoleList(pNMHDR->hwndFrom))
+    else if (pNMHDR && FindRoleList(pNMHDR->hwndFrom)) {
+        m_pDblClkList = dynamic_cast<CGUIListCtrl*>(pNMHDR->hwndFrom);
         MoveTargetListOnDblClk();
+        m_pDblClkList = nullptr;
+    }
 }
 
 void CGUIBaseDlg::OnItemchangedListCtrl(NMHDR*, LRESULT*)

@@ -250,6 +250,8 @@ private:
     CGUIListCtrl* m_pSourceList = nullptr;
     std::vector<CRoleList> m_roleLists;
     CGUIListCtrl* m_pDragList = nullptr;
+    // The target list being double-clicked, while its notice runs.
+    CGUIListCtrl* m_pDblClkList = nullptr;
     UINT m_nCaptionID = 0;
     bool m_bRun = false;
     void* m_pOwnerContext = nullptr;

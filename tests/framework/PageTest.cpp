@@ -371,6 +371,23 @@ TEST_F(Page, RoleListsMoveByButtonMenuDragAndDoubleClick)
     EXPECT_EQ(data.m_One.GetSize(), 0);
 }
 
+TEST_F(Page, ADoubleClickedTargetListGivesBackItsOwnSelection)
+{
+    CProbeData data;
+    Run(data, [](CHeadlessSession& s, CProbePage&) {
+        s.Select(SOURCE, Items({u"Y"}));
+        s.Click(ADD_NUMBERS); // Y stays selected in the first list
+        s.Select(SOURCE, Items({u"X"}));
+        s.Click(ADD_ONE);
+        s.DoubleClick(ONE);
+        EXPECT_EQ(s.Items(NUMBERS), Items({u"Y"}));
+        EXPECT_TRUE(s.Items(ONE).empty());
+        s.DoubleClick(NUMBERS);
+        EXPECT_TRUE(s.Items(NUMBERS).empty());
+        s.Ok();
+    });
+}
+
 TEST_F(Page, TabPagesGetTheirSettingsInPageOrderAndAnswerThroughTheTab)
 {
     CProbeTabData data;
