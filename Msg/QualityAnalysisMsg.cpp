@@ -1,5 +1,9 @@
 #include "Msg/QualityAnalysisMsg.h"
 
+#include "Msg/LaunchDialog.h"
+#include "private/Quality/KDGShewhartTabDlg.h"
+#include "private/Quality/KDGXMrTabDlg.h"
+
 namespace {
 
 const MenuCommandRow kRows[] = {
@@ -11,9 +15,9 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2038, CArlDlg, CArlData),
     KAL_MENU_ROW_UNAVAILABLE(2039, CRegressDlg, CRegressData),
     KAL_MENU_ROW_UNAVAILABLE(2040, CRunChartDlg, CRunChartData),
-    KAL_MENU_ROW_UNAVAILABLE(2041, CShewhartTabDlg, CShewhartTabData, 2279),
+    KAL_MENU_ROW(2041, CShewhartTabDlg, CShewhartTabData, 2279),
     KAL_MENU_ROW_UNAVAILABLE(2042, CTsqDlg, CTsqData),
-    KAL_MENU_ROW_UNAVAILABLE(2043, CXMrTabDlg, CXMrTabData, 2338),
+    KAL_MENU_ROW(2043, CXMrTabDlg, CXMrTabData, 2338),
     KAL_MENU_ROW_UNAVAILABLE(2045, CQaHistogramDlg, CQaHistogramData),
     KAL_MENU_ROW_UNAVAILABLE(2046, CParetoDlg, CParetoData),
     KAL_MENU_ROW_UNAVAILABLE(2047, CPcaDlg, CPcaData),

@@ -68,6 +68,32 @@ void CDDXVDlg::ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, U
     value.m_nState = value.m_Value == value.m_DefaultValue ? 1 : 0;
 }
 
+template <class T>
+bool CDDXVDlg::ReadNumber(const CWnd& control, CGUIData<T>& value)
+{
+    T parsed{};
+    if (Parse(control.GetWindowText(), parsed) != Parsed::ok || !IsFinite(parsed))
+        return false;
+    value.m_Value = parsed;
+    value.m_nState = value.m_Value == value.m_DefaultValue ? 1 : 0;
+    return true;
+}
+
+bool CDDXVDlg::ReadKVText(const CWnd& control, CGUIData<int>& value)
+{
+    return ReadNumber(control, value);
+}
+
+bool CDDXVDlg::ReadKVText(const CWnd& control, CGUIData<unsigned int>& value)
+{
+    return ReadNumber(control, value);
+}
+
+bool CDDXVDlg::ReadKVText(const CWnd& control, CGUIData<double>& value)
+{
+    return ReadNumber(control, value);
+}
+
 void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<int>& value, UINT messageId)
 {
     ExchangeNumber(pDX, id, value, messageId);

@@ -21,6 +21,11 @@ public:
     // is one too large for it) and sets m_nState: 1 when the value equals
     // m_DefaultValue, else 0.
     static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<int>& value, UINT messageId);
+    // Reads an edited number with no message: false, and `value` as it was,
+    // when the control's text is not a number of the holder's type.
+    static bool ReadKVText(const CWnd& control, CGUIData<int>& value);
+    static bool ReadKVText(const CWnd& control, CGUIData<unsigned int>& value);
+    static bool ReadKVText(const CWnd& control, CGUIData<double>& value);
     static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<unsigned int>& value, UINT messageId);
     static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<double>& value, UINT messageId);
     // A check box and its enable state.
@@ -51,4 +56,6 @@ public:
 private:
     template <class T>
     static void ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, UINT messageId);
+    template <class T>
+    static bool ReadNumber(const CWnd& control, CGUIData<T>& value);
 };

@@ -17,7 +17,7 @@
 // Each field names its member, the control that shows it (0: none) and where
 // its default comes from: a GetDefault<Control>() that returns the value or
 // fills it, or nothing (lists start empty). Edits may carry the range that
-// the page accepts. The archive order is each class's own and stays in its
+// the page accepts, and may be optional (left empty for their default). The archive order is each class's own and stays in its
 // Serialize (see SerializeValues).
 #pragma once
 
@@ -55,6 +55,10 @@ enum FieldFlags : unsigned {
     kFieldSource = 1,
     // A file edit naming a file to read (the default names a file to write).
     kFieldOpenFile = 2,
+    // An edited number the user may leave empty: an empty edit gives the
+    // holder its default back (state 1), and a holder at its default shows
+    // as an empty edit. For values whose default means "none given".
+    kFieldOptional = 4,
 };
 
 template <class Owner, class T>
@@ -93,6 +97,13 @@ struct Field {
     {
         Field f = *this;
         f.requiredBy = check;
+        return f;
+    }
+    // The page accepts an empty edit for this number (see kFieldOptional).
+    constexpr Field Optional() const
+    {
+        Field f = *this;
+        f.flags |= kFieldOptional;
         return f;
     }
 

@@ -616,8 +616,31 @@ template <class T>
 void CGUIBaseDlg::ExchangeNumberField(CDataExchange* pDX, const CFieldExchange& field, CGUIData<T>& value,
                                       UINT parseMessage)
 {
+    if (field.flags & kal::kFieldOptional) {
+        // Empty stands for the default, both ways; a value the user gave
+        // goes through the exchange and the range below.
+        CWnd* control = pDX->PrepareCtrl(field.control);
+        if (!control)
+            return;
+        if (!pDX->m_bSaveAndValidate && value.m_nState == 1 && value.m_Value == value.m_DefaultValue) {
+            control->SetWindowText(CString());
+            return;
+        }
+        if (pDX->m_bSaveAndValidate && control->GetWindowText().Trim().IsEmpty()) {
+            value.m_Value = value.m_DefaultValue;
+            value.m_nState = 1;
+            return;
+        }
+    }
+    if (const CWnd* control = GetDlgItem(field.control);
+        pDX->m_bSaveAndValidate && control && !IsCtrlInUse(field.control)) {
+        // An edit the user cannot reach refuses nothing: its text counts
+        // when it is a number, else the value stays as it was.
+        ReadKVText(*control, value);
+        return;
+    }
     DDX_KVText(pDX, field.control, value, parseMessage);
-    if (!pDX->m_bSaveAndValidate || field.rangeMessage == 0 || !IsCtrlInUse(field.control))
+    if (!pDX->m_bSaveAndValidate || field.rangeMessage == 0)
         return;
     const double v = static_cast<double>(value.m_Value);
     if (v < field.min || v > field.max) {

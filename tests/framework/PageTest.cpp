@@ -90,6 +90,29 @@ public:
     CString m_File;
 };
 
+// A page with one optional number: empty stands for its default.
+constexpr const char* kOptionalTemplate = R"({"dialogs": [{"id": 9120, "caption": "Optional", "size": [100, 40],
+    "controls": [{"id": 9121, "kind": "edit", "rect": [0, 0, 60, 13]}]}]})";
+
+class COptionalData : public CGUIBaseObj {
+public:
+    COptionalData() { kal::ResetFields(*this); }
+    static CGUIData<double> GetDefaultBound() { return CGUIData<double>(0.0); }
+    int GetAll(CGUIData<double>& bound) const { return kal::CopyFieldsOut(*this, bound); }
+    int SetAll(const CGUIData<double>& bound) { return kal::CopyFieldsIn(*this, bound); }
+    static constexpr auto Fields()
+    {
+        using F = kal::FieldsOf<COptionalData>;
+        return std::tuple{F::Value(&COptionalData::m_Bound, 9121, &GetDefaultBound).Range(0, 1).Optional()};
+    }
+    CGUIData<double> m_Bound;
+};
+
+class COptionalPage : public CGUIPageDlg<COptionalData> {
+public:
+    COptionalPage() : CGUIPageDlg(9120, nullptr) {}
+};
+
 class CProbePage : public CGUIPageDlg<CProbeData> {
 public:
     explicit CProbePage(CWnd* parent = nullptr) : CGUIPageDlg(IDD_PROBE, parent)
@@ -247,13 +270,69 @@ TEST_F(Page, RefusedEntriesKeepThePageOpenOnTheirControl)
         s.Type(LEVEL, u"1e");
         s.Ok();
         EXPECT_EQ(host.messages, (std::vector<UINT>{2012, 2010, 2010}));
-        // A range applies while its control is in use.
+        // A range applies while its control is in use; an edit the user
+        // cannot reach refuses nothing, and its text counts when it is a
+        // number.
         s.Type(LEVEL, u"7");
         s.Check(CHECK, 0);
         s.Ok();
         EXPECT_FALSE(s.IsOpen());
     });
     EXPECT_EQ(data.m_Level.m_Value, 7);
+    Run(data, [](CHeadlessSession& s, CProbePage& page) {
+        s.Check(CHECK, 1);
+        s.Type(LEVEL, u"not now");
+        page.EnableCtrl(LEVEL, FALSE);
+        s.Ok();
+        EXPECT_FALSE(s.IsOpen());
+    });
+    EXPECT_EQ(data.m_Level.m_Value, 7);
+}
+
+TEST_F(Page, AnOptionalNumberIsEmptyAtItsDefaultAndEmptyGivesTheDefaultBack)
+{
+    host.Resources().AddFile("optional.json", kOptionalTemplate);
+    COptionalData data;
+    const auto run = [&](const std::function<void(CHeadlessSession&)>& script) {
+        COptionalPage page;
+        page.SetData(&data);
+        driver.SetScript(script);
+        return page.DoModal();
+    };
+    run([](CHeadlessSession& s) {
+        EXPECT_EQ(s.Text(9121), CString());
+        s.Type(9121, u"0.25");
+        s.Ok();
+    });
+    EXPECT_EQ(data.m_Bound, CGUIData<double>(0, 0.25, 0.0, 0, 1));
+
+    // A value the user gave is shown; blanks give the default back; a
+    // typed default counts as none given.
+    run([](CHeadlessSession& s) {
+        EXPECT_EQ(s.Text(9121), CString(u"0.25"));
+        s.Type(9121, u"  ");
+        s.Ok();
+    });
+    EXPECT_EQ(data.m_Bound, CGUIData<double>(0.0));
+    run([](CHeadlessSession& s) {
+        s.Type(9121, u"0");
+        s.Ok();
+    });
+    EXPECT_EQ(data.m_Bound, CGUIData<double>(0.0));
+
+    // Anything else is read as usual: refused when not a number or out of
+    // range.
+    EXPECT_EQ(run([](CHeadlessSession& s) {
+                  s.Type(9121, u"x");
+                  s.Ok();
+                  s.Type(9121, u"-1");
+                  s.Ok();
+                  EXPECT_TRUE(s.IsOpen());
+                  s.Cancel();
+              }),
+              IDCANCEL);
+    EXPECT_EQ(host.messages, (std::vector<UINT>{2010, 2012}));
+    EXPECT_EQ(data.m_Bound, CGUIData<double>(0.0));
 }
 
 TEST_F(Page, RoleListsMoveByButtonMenuDragAndDoubleClick)
@@ -302,18 +381,20 @@ TEST_F(Page, RoleListsMoveByButtonMenuDragAndDoubleClick)
     EXPECT_EQ(data.m_One.GetSize(), 0);
 }
 
-TEST_F(Page, ADoubleClickedTargetListGivesBackItsOwnSelectionOnly)
+TEST_F(Page, ADoubleClickedTargetListGivesBackItsOwnSelection)
 {
     CProbeData data;
     Run(data, [](CHeadlessSession& s, CProbePage&) {
         s.Select(SOURCE, Items({u"Y"}));
-        s.Click(ADD_NUMBERS); // Y stays selected where it arrived
+        s.Click(ADD_NUMBERS); // Y stays selected in the first list
         s.Select(SOURCE, Items({u"X"}));
         s.Click(ADD_ONE);
         s.DoubleClick(ONE);
-        EXPECT_TRUE(s.Items(ONE).empty());
         EXPECT_EQ(s.Items(NUMBERS), Items({u"Y"}));
-        s.Cancel();
+        EXPECT_TRUE(s.Items(ONE).empty());
+        s.DoubleClick(NUMBERS);
+        EXPECT_TRUE(s.Items(NUMBERS).empty());
+        s.Ok();
     });
 }
 

@@ -1,0 +1,19 @@
+#include "private/Quality/KDGControlLimits.h"
+
+namespace kal::quality {
+
+CString LimitsClause(const CGUIBaseObj& settings, const CGUIData<double>& lower, const CGUIData<double>& upper,
+                     const CString& keyword, int bCondition)
+{
+    const bool hasLower = settings.IsToBeWritten(lower) != 0;
+    const bool hasUpper = settings.IsToBeWritten(upper) != 0;
+    if (!bCondition || (!hasLower && !hasUpper))
+        return {};
+    if (hasLower && hasUpper)
+        return settings.AppendLimits(lower, upper, keyword, 1);
+    const CString lowerText = hasLower ? CGUIBaseObj::NumberText(lower.m_Value) : CString();
+    const CString upperText = hasUpper ? CGUIBaseObj::NumberText(upper.m_Value) : CString();
+    return keyword + lowerText + u"," + upperText;
+}
+
+} // namespace kal::quality

@@ -1,0 +1,3 @@
+#include "private/Quality/KDGShewhartTabData.h"
+
+IMPLEMENT_SERIAL(CShewhartTabData, CGUITabData, 1)

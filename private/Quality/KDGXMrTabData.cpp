@@ -1,0 +1,3 @@
+#include "private/Quality/KDGXMrTabData.h"
+
+IMPLEMENT_SERIAL(CXMrTabData, CGUITabData, 1)

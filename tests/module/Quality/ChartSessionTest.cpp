@@ -1,0 +1,91 @@
+// The control charts in sessions: the sample scripts through kalhost,
+// choices that survive a restart, and the module line the host's command
+// runner records.
+#include "host/KalUseRes.h"
+#include "private/Quality/KDGXMrTabData.h"
+#include "refhost/HostGlobal.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/Process.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using kaltest::ProcessResult;
+using kaltest::RunProcess;
+using kaltest::TempDir;
+
+namespace {
+
+ProcessResult Kalhost(const std::vector<std::string>& args, const std::string& input = {})
+{
+    return RunProcess(KALHOST_PATH, args, input);
+}
+
+std::string Sample(const std::string& name)
+{
+    return std::string(KAL_SOURCE_DIR) + "/samples/" + name;
+}
+
+} // namespace
+
+TEST(ChartSession, TheSampleScriptsWriteTheirCharts)
+{
+    const auto shewhart = Kalhost({"--data", Sample("fill-weights.csv"), "play", Sample("shewhart.kal")});
+    EXPECT_EQ(shewhart.status, 0) << shewhart.err;
+    EXPECT_EQ(shewhart.err, "");
+    EXPECT_EQ(shewhart.out, "QC\n"
+                            "SHEWHART weight*lot / TYPE=XBAR SLIMITS=3,3  TEST = 1 2 \n"
+                            "QC\n"
+                            "SHEWHART defective*lot / TYPE=P CENTER=0.15 PLIMITS=0.005,0.995  TEST = 1 2 \n");
+
+    const auto xmr = Kalhost({"--data", Sample("fill-weights.csv"), "play", Sample("xmr.kal")});
+    EXPECT_EQ(xmr.status, 0) << xmr.err;
+    EXPECT_EQ(xmr.out, "QC\nXMR   weight /  WIDTH = 3  CENTER = 500 SLIMITS=3,3 MEAN \n");
+}
+
+TEST(ChartSession, ChoicesSurviveARestartButTheKnownCenterIsInUseForTheSessionOnly)
+{
+    TempDir dir;
+    const std::string store = dir.Path() + "/charts.store";
+    const auto first = Kalhost({"--store", store, "play", "-"},
+                               "open 2041\n"
+                               "select 4386 T1 T2\nclick 4367\nselect 4386 A B\nclick 4366\n"
+                               "choose 4370 5\nselect 4386 W\nclick 4365\ncheck 4396 1\ncheck 4398 1\n"
+                               "click 4376\ntype 4377 12.5\npage 1\ncheck 3981 0\nok\n"
+                               "open 2043\nselect 5431 Y\nclick 5433\ntype 5441 1.25\nclick 5437\n"
+                               "page 1\ncheck 3984 0\nok\n");
+    ASSERT_EQ(first.status, 0) << first.err;
+    EXPECT_EQ(first.out, "QC\nWEIGHT  W\nSHEWHART T1 T2*A B / TYPE=NP LIMITS=,12.5 AGG TOTAL  TEST = 1 2 3 5 6 7 8 \n"
+                         "QC\nXMR   Y /   SIGMA = 1.25 MEDIAN   TEST = 0 \n");
+    EXPECT_EQ(Kalhost({"--store", store, "commands", "2041"}).out,
+              "QC\nWEIGHT  W\nSHEWHART T1 T2*A B / TYPE=NP LIMITS=,12.5 AGG TOTAL  TEST = 1 2 3 5 6 7 8 \n");
+    EXPECT_EQ(Kalhost({"--store", store, "commands", "2043"}).out, "QC\nXMR   Y /   SIGMA = 1.25 MEDIAN   TEST = 0 \n");
+
+    // Whether the known center is in use belongs to the page, not to the
+    // record: after a restart its check is clear and its value is kept.
+    const auto center = Kalhost({"--store", store, "open", "2041", "--actions", "-"},
+                                "check 4392 1\ntype 4368 7\nok\n");
+    EXPECT_NE(center.out.find(" CENTER=7"), std::string::npos) << center.out;
+    EXPECT_EQ(Kalhost({"--store", store, "commands", "2041"}).out.find("CENTER"), std::string::npos);
+    const auto reopened = Kalhost({"--store", store, "open", "2041", "--actions", "-"},
+                                  "expect checked 4392 0\nexpect text 4368 7\ncancel\n");
+    EXPECT_EQ(reopened.status, 1) << reopened.err;
+}
+
+TEST(ChartSession, TheChartLinesMakeQcTheCurrentModule)
+{
+    auto resources = kalhost::ResourceTable::LoadEmbedded();
+    KalUseRes::SetGlobalResourceHandle(resources.get());
+    {
+        std::ostringstream out, err;
+        kalhost::HostGlobal host(*resources, out, err);
+        kaltest::HostScope scope(&host);
+        host.SetCurrentCommandModule(u"ANOVA");
+        host.RegisterSettings(2043, new CXMrTabData);
+        host.RunCommand(2043, {});
+        EXPECT_EQ(out.str(), "QC\nXMR    /  MEAN \n");
+        EXPECT_EQ(host.GetCurrentCommandModule(), CString(u"QC"));
+    }
+    KalUseRes::SetGlobalResourceHandle(nullptr);
+}
