@@ -1,19 +1,15 @@
 // The correlations tab dialog in Qt widgets: a user's clicks, choices,
 // drags, menus, typing and tab switches give the command lines and control
 // states the same actions give headless; the options tab is greyed with
-// its reason while it does not apply; every page renders.
+// its reason while it does not apply.
 #include "Source/DlgStat2.h"
 #include "private/Multivariate/KDGCorrelationsTabDlg.h"
 #include "refhost/qt/QtView.h"
 #include "tests/qt/QtTestSupport.h"
 #include "tests/support/FakeHost.h"
 
-#include <QColor>
-#include <QImage>
-#include <QSet>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -172,47 +168,4 @@ TEST_F(QtCorrelations, TheOptionsTabIsGreyedWithItsReasonAndCannotBeChosen)
         });
     });
     EXPECT_TRUE(checked);
-}
-
-TEST_F(QtCorrelations, EveryPageRendersToAPicture)
-{
-    QTemporaryDir scratch;
-    const char* names[] = {"correlations", "options", "resampling"};
-    std::vector<QImage> images;
-    for (int page = 0; page < 3; ++page) {
-        CCorrelationsTabData data;
-        kalhost::qt::QtDialogDriver driver;
-        driver.SetScript([page](CHeadlessSession& s) {
-            s.Select(Page0::IDC_SOURCE_LIST, {u"Yield", u"Growth", u"Rain"});
-            s.Click(Page0::IDC_ADD_ROWS);
-            s.Check(Page0::IDC_SAVE_CHECK, 1);
-            s.Type(Page0::IDC_SAVE_FILE_EDIT, u"matrix.kvd");
-            s.Page(1);
-            s.Check(Options::IDC_PROBABILITIES, 1);
-            s.Check(Options::IDC_EM, 1);
-            s.Page(2);
-            s.Click(CBootStrapDlg::IDC_METHOD_BOOTSTRAP);
-            s.Page(page);
-        });
-        const QString file = scratch.filePath(QString::fromLatin1(names[page]) + QStringLiteral(".png"));
-        driver.SetScreenshotFile(file.toStdString());
-        EXPECT_EQ(Open(driver, data), IDCANCEL);
-        EXPECT_TRUE(driver.LastLeftOpen());
-
-        // A drawn dialog: many colours, and text in the dark window-text colour.
-        const QImage image(file);
-        ASSERT_FALSE(image.isNull()) << names[page];
-        QSet<QRgb> colours;
-        int dark = 0;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x) {
-                colours.insert(image.pixel(x, y));
-                dark += QColor(image.pixel(x, y)).lightness() < 80;
-            }
-        EXPECT_GT(colours.size(), 8) << names[page];
-        EXPECT_GT(dark, 200) << names[page];
-        for (const QImage& other : images)
-            EXPECT_NE(image, other) << names[page] << " looks like an earlier page";
-        images.push_back(image);
-    }
 }

@@ -181,16 +181,11 @@ TEST_F(CorrelationsSettings, EmAndHadiClausesFollowTheirChoicesAndTheValueRules)
     EXPECT_EQ(Line(), u"PEARSON X / HADI TOL = 0.0001");
 }
 
-TEST_F(CorrelationsSettings, TheSaveLineComesBeforeTheMeasureLine)
+TEST_F(CorrelationsSettings, TheSaveLineComesFirstAndPagesWithoutTheirTabWriteNoMeasureLine)
 {
     SetPage({.rows = {u"X"}, .save = 1, .file = u"it's.kvd"});
     EXPECT_EQ(Commands(), (Lines16{u"CORR", u"SAVE 'it''s.kvd'", u"PEARSON X "}));
-    SetPage({.rows = {u"X"}, .save = 0, .file = u"kept.kvd"});
-    EXPECT_EQ(Commands(), (Lines16{u"CORR", u"PEARSON X "}));
-}
 
-TEST_F(CorrelationsSettings, PagesWithoutTheirTabWriteNoMeasureLineAndNoTail)
-{
     CCorrelationsData alone;
     Set(alone, {.rows = {u"X"}, .deletion = 1, .save = 1, .file = u"m.kvd"});
     CLIST<CCmdInfo> list;
@@ -308,33 +303,6 @@ TEST_F(CorrelationsSettings, TheTabRecordReloadsEveryPageAndFailsCutShort)
         CCorrelationsTabData broken;
         EXPECT_THROW(Load(cut, [&](CArchive& ar) { broken.Serialize(ar); }, schema), CArchiveException);
     }
-}
-
-TEST_F(CorrelationsSettings, CopiesCarryEveryPageAndBelongToTheCopy)
-{
-    SetPage({.rows = {u"X"}, .deletion = 1});
-    SetOptions({.hadi = 1});
-    tab.GetCorrOptionsData()->SetWindowState(0);
-    tab.SetstrDialog(2002);
-
-    const CCorrelationsTabData copy(tab);
-    EXPECT_EQ(copy.GetDialogID(), 0u);
-    EXPECT_EQ(copy.GetCorrOptionsData()->GetWindowState(), 1); // a fresh base
-    EXPECT_EQ(copy.GetCorrOptionsData()->GetHadiCheck(), 1);
-    CGUIBaseObj* parent = nullptr;
-    copy.GetCorrOptionsData()->GetParent(parent);
-    EXPECT_EQ(parent, &copy);
-    CLIST<CCmdInfo> list;
-    copy.GetCommandInfoList(list);
-    EXPECT_EQ(Lines(list).back(), u"PEARSON X / HADI");
-
-    CCorrelationsTabData assigned;
-    assigned.SetWindowState(0);
-    assigned = tab;
-    EXPECT_EQ(assigned.GetWindowState(), 0); // assignment leaves the base alone
-    EXPECT_EQ(assigned.GetCorrelationsData()->GetListWiseRadio(), 1);
-    assigned = assigned;
-    EXPECT_EQ(assigned.GetCorrOptionsData()->GetHadiCheck(), 1);
 }
 
 TEST(CorrelationsSource, FillsFromTheSheetAndDropsVariablesItNoLongerHas)
