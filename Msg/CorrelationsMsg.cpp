@@ -1,9 +1,12 @@
 #include "Msg/CorrelationsMsg.h"
 
+#include "Msg/LaunchDialog.h"
+#include "private/Multivariate/KDGCorrelationsTabDlg.h"
+
 namespace {
 
 const MenuCommandRow kRows[] = {
-    KAL_MENU_ROW_UNAVAILABLE(2002, CCorrelationsTabDlg, CCorrelationsTabData, 2057, 2363),
+    KAL_MENU_ROW(2002, CCorrelationsTabDlg, CCorrelationsTabData, 2057, 2363),
     KAL_MENU_ROW_UNAVAILABLE(2057, CSetCorTabDlg, CSetCorTabData, 2278, 2044),
 };
 

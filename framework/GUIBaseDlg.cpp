@@ -478,13 +478,19 @@ void CGUIBaseDlg::OnBegindrag(NMHDR* pNMHDR, LRESULT*)
     SetCursor(CursorShape::Arrow);
 }
 
+bool CGUIBaseDlg::AcceptsDrop(const CRoleList& row)
+{
+    // A disabled list takes nothing, as a disabled window takes no input.
+    CGUIListCtrl& target = ListCtrl(row.list);
+    return target.IsWindowEnabled() && EnableSourceToTarget(m_pSourceList, &target, static_cast<int>(row.add));
+}
+
 void CGUIBaseDlg::MouseMoveListCtrlHelper(const CWnd* over, HICON& cursor)
 {
     if (!m_pDragList)
         return;
     if (m_pDragList == m_pSourceList) {
-        if (const CRoleList* row = FindRoleList(over);
-            row && EnableSourceToTarget(m_pSourceList, &ListCtrl(row->list), static_cast<int>(row->add)))
+        if (const CRoleList* row = FindRoleList(over); row && AcceptsDrop(*row))
             cursor = CursorShape::Drop;
         return;
     }
@@ -498,8 +504,7 @@ void CGUIBaseDlg::LButtonUpListCtrlHelper(const CWnd* over)
     if (!m_pDragList)
         return;
     if (m_pDragList == m_pSourceList) {
-        if (const CRoleList* row = FindRoleList(over);
-            row && EnableSourceToTarget(m_pSourceList, &ListCtrl(row->list), static_cast<int>(row->add)))
+        if (const CRoleList* row = FindRoleList(over); row && AcceptsDrop(*row))
             RunButtonHandler(row->add);
         return;
     }
@@ -554,7 +559,7 @@ BOOL CGUIBaseDlg::OnUpdateAddTarget(CCmdUI* pCmdUI)
     // apply to it.
     for (const auto& row : m_roleLists)
         if (row.menuCommand == pCmdUI->m_nID && row.menuCommand != 0)
-            pCmdUI->Enable(EnableSourceToTarget(m_pSourceList, &ListCtrl(row.list), static_cast<int>(row.add)));
+            pCmdUI->Enable(AcceptsDrop(row));
     return TRUE;
 }
 

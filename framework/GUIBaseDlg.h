@@ -40,7 +40,8 @@ struct CRoleList {
     UINT menuCommand = 0;
     UINT menuLabel = 0;
     // Whether selected string variables may be added by the button now
-    // (null: yes). Drags and the menu test movability only.
+    // (null: yes). Drags and the menu test movability only, and that the
+    // list is enabled.
     std::function<bool()> acceptsStrings = {};
     // Further conditions of both buttons, and of the remove button alone
     // (null: none).
@@ -219,6 +220,9 @@ protected:
     // The role-list rule of the buttons: movable, the list not busy, the
     // selection's types accepted, the row's own conditions.
     bool CanAdd(const CRoleList& row) const;
+    // Whether a drag from the source list or the source list's menu may add
+    // to the row's list now: the list is enabled and the move possible.
+    bool AcceptsDrop(const CRoleList& row);
     bool CanRemove(const CRoleList& row) const;
     // Runs the handler bound to a button, as a click would.
     void RunButtonHandler(UINT buttonId);

@@ -398,6 +398,29 @@ TEST_F(Page, ADoubleClickedTargetListGivesBackItsOwnSelection)
     });
 }
 
+TEST_F(Page, ADisabledListTakesNoDropAndNoMenuMove)
+{
+    CProbeData data;
+    Run(data, [this](CHeadlessSession& s, CProbePage& page) {
+        page.EnableCtrl(ONE, FALSE);
+        page.EnableCtrl(NUMBERS, FALSE);
+        s.Select(SOURCE, Items({u"Y"}));
+        s.Drag(SOURCE, ONE);
+        EXPECT_EQ(s.LastDragCursor(), CursorShape::Arrow);
+        s.Menu(SOURCE, MENU_NUMBERS);
+        EXPECT_FALSE(driver.LastMenu().IsEnabled(MENU_NUMBERS));
+        EXPECT_TRUE(s.Items(ONE).empty());
+        EXPECT_TRUE(s.Items(NUMBERS).empty());
+
+        page.EnableCtrl(ONE, TRUE);
+        s.Select(SOURCE, Items({u"Y"}));
+        s.Drag(SOURCE, ONE);
+        EXPECT_EQ(s.LastDragCursor(), CursorShape::Drop);
+        EXPECT_EQ(s.Items(ONE), Items({u"Y"}));
+        s.Cancel();
+    });
+}
+
 TEST_F(Page, TabPagesGetTheirSettingsInPageOrderAndAnswerThroughTheTab)
 {
     CProbeTabData data;
