@@ -251,6 +251,23 @@ TEST(KalhostScripts, TypedTextCannotAddAClause)
     EXPECT_NE(save.out.find("SAVE 'out.kvd' / RESIDUALS/DATA\n"), std::string::npos) << save.out;
 }
 
+TEST(KalhostSessions, ARegressionAfterAChartLeavesTheQualityModuleFirst)
+{
+    const std::string chart = "open 2041\nselect 4386 weight\nclick 4367\nselect 4386 lot\nclick 4366\nok\n";
+    const std::string regression = "open 2051\nselect 4101 weight\nclick 4104\nselect 4101 lot\nclick 4106\nok\n";
+    const auto r = Kalhost({"--data", Sample("fill-weights.csv"), "play", "-"}, chart + regression + regression);
+    EXPECT_EQ(r.status, 0) << r.err;
+    // QC, then EXIT before the first REGRESS only: the host is in the
+    // regression module from then on.
+    const auto qc = r.out.find("QC\n");
+    const auto exit = r.out.find("EXIT\nREGRESS\n");
+    ASSERT_NE(qc, std::string::npos) << r.out;
+    ASSERT_NE(exit, std::string::npos) << r.out;
+    EXPECT_LT(qc, exit);
+    EXPECT_EQ(r.out.find("EXIT", exit + 1), std::string::npos) << r.out;
+    EXPECT_NE(r.out.find("MODEL weight = CONSTANT+lot\n"), std::string::npos) << r.out;
+}
+
 TEST(KalhostScripts, AValidationFailureKeepsTheDialogOpen)
 {
     const auto r = Kalhost({"play", "-"}, "open 2008\nselect 1075 Y Y2\nclick 1067\npage 1\ncheck 4193 1\n"
