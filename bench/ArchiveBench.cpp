@@ -73,9 +73,10 @@ void Store(benchmark::State& state, List list, const std::string& baselines)
 template <class List>
 void Load(benchmark::State& state, List list, const std::string& baselines)
 {
-    const std::vector<BYTE> bytes = Stored(list);
+    // The archive's bytes are in memory once; each load reads them again.
+    CMemFile file(Stored(list));
     for (auto _ : state) {
-        CMemFile file(bytes);
+        file.SeekToBegin();
         CArchive ar(&file, CArchive::load);
         List loaded;
         loaded.Serialize(ar);

@@ -6,23 +6,26 @@
 
 namespace {
 
-// Raw little-endian element transfer for arithmetic element types.
-template <class T>
-void SerializeRaw(CArchive& ar, std::vector<T>& items)
+// Raw little-endian element transfer for arithmetic element types. A load
+// makes room only for what the data left in the archive can hold, then
+// reads straight into it.
+template <class Storage>
+void SerializeRaw(CArchive& ar, Storage& items)
 {
+    using T = typename Storage::value_type;
     if (ar.IsStoring()) {
         ar.WriteCount(items.size());
         ar.Write(items.data(), items.size() * sizeof(T));
         return;
     }
     const ULONGLONG count = ar.ReadCount();
-    std::vector<T> loaded;
-    loaded.reserve(ar.ElementsJustified(count, sizeof(T)));
-    ar.ReadBlocks(count, sizeof(T), [&](const BYTE* data, std::size_t n) {
-        const std::size_t old = loaded.size();
-        loaded.resize(old + n);
-        std::memcpy(loaded.data() + old, data, n * sizeof(T));
-    });
+    Storage loaded;
+    loaded.resize(ar.ElementsJustified(count, sizeof(T)));
+    ar.ReadExact(loaded.data(), loaded.size() * sizeof(T));
+    if (loaded.size() < count) {
+        T next; // the data ran out before the count: endOfFile
+        ar.ReadExact(&next, sizeof next);
+    }
     items = std::move(loaded);
 }
 
@@ -57,27 +60,30 @@ void CGUIArray<CGUIDataVariable>::Serialize(CArchive& ar)
         return;
     }
     constexpr std::size_t kBlock = CGUIDataVariable::kBlockSize;
-    // Blocks are staged through a buffer of bounded size; every transfer
-    // stays well below the framework's limit of 89478485 blocks.
-    constexpr std::size_t kBlocksPerTransfer = std::min<std::size_t>(65536, kMaxVariableBlocksPerTransfer);
     if (ar.IsStoring()) {
-        ar.WriteCount(static_cast<ULONGLONG>(GetSize()));
+        // Blocks are staged through a small buffer that stays in the cache;
+        // every transfer stays well below the framework's limit of 89478485
+        // blocks.
+        constexpr std::size_t kBlocksPerTransfer = std::min<std::size_t>(4096, kMaxVariableBlocksPerTransfer);
         const auto& items = Items();
-        std::vector<unsigned char> chunk(std::min(items.size(), kBlocksPerTransfer) * kBlock);
+        ar.WriteCount(static_cast<ULONGLONG>(items.size()));
+        ar.ReserveForWrite(items.size() * kBlock);
+        unsigned char chunk[kBlocksPerTransfer * kBlock];
         for (std::size_t first = 0; first < items.size(); first += kBlocksPerTransfer) {
             const std::size_t n = std::min(kBlocksPerTransfer, items.size() - first);
             for (std::size_t i = 0; i < n; ++i)
-                items[first + i].ToBlock(chunk.data() + i * kBlock);
-            ar.Write(chunk.data(), n * kBlock);
+                items[first + i].ToBlock(chunk + i * kBlock);
+            ar.Write(chunk, n * kBlock);
         }
         return;
     }
     const ULONGLONG count = ar.ReadCount();
     CGUIArray<CGUIDataVariable> loaded;
-    loaded.Reserve(ar.ElementsJustified(count, kBlock));
+    auto& items = loaded.Items();
+    items.reserve(ar.ElementsJustified(count, kBlock));
     ar.ReadBlocks(count, kBlock, [&](const BYTE* data, std::size_t n) {
         for (std::size_t i = 0; i < n; ++i)
-            loaded.Add(CGUIDataVariable::FromBlock(data + i * kBlock));
+            items.push_back(CGUIDataVariable::FromBlock(data + i * kBlock));
     });
     *this = std::move(loaded);
 }

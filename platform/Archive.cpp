@@ -86,11 +86,17 @@ void CArchive::ReadBlocks(ULONGLONG count, std::size_t elementSize,
     if (count == 0 || elementSize == 0)
         return;
     const std::size_t perBlock = std::max<std::size_t>(1, kLoadBlockBytes / elementSize);
-    std::vector<BYTE> block(std::min<ULONGLONG>(count, perBlock) * elementSize);
+    std::vector<BYTE> block;
     while (count > 0) {
         const std::size_t n = static_cast<std::size_t>(std::min<ULONGLONG>(count, perBlock));
-        ReadExact(block.data(), n * elementSize);
-        sink(block.data(), n);
+        // A memory archive hands its bytes over where they are.
+        if (const BYTE* inPlace = m_file->ReadInPlace(n * elementSize)) {
+            sink(inPlace, n);
+        } else {
+            block.resize(n * elementSize);
+            ReadExact(block.data(), n * elementSize);
+            sink(block.data(), n);
+        }
         count -= n;
     }
 }
@@ -101,6 +107,12 @@ std::size_t CArchive::ElementsJustified(ULONGLONG count, std::size_t elementSize
     const ULONGLONG position = m_file->GetPosition();
     const ULONGLONG left = length > position ? length - position : 0;
     return static_cast<std::size_t>(std::min<ULONGLONG>(count, elementSize ? left / elementSize : 0));
+}
+
+void CArchive::ReserveForWrite(std::size_t count)
+{
+    CheckStoring();
+    m_file->ReserveForWrite(count);
 }
 
 void CArchive::WriteCount(ULONGLONG count)

@@ -64,6 +64,9 @@ public:
     // the archive could hold: a safe capacity to reserve before a load.
     std::size_t ElementsJustified(ULONGLONG count, std::size_t elementSize) const;
 
+    // Tells the file that `count` bytes follow, so that it can make room once.
+    void ReserveForWrite(std::size_t count);
+
     void WriteCount(ULONGLONG count);
     ULONGLONG ReadCount();
 

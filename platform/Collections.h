@@ -1,6 +1,10 @@
 // CArray: the framework's growable array, over std::vector. Indexes are int
 // as in the framework; access out of range throws CInvalidArgException
 // rather than corrupting memory.
+//
+// Room the array makes for elements that are about to be overwritten (a
+// list of numbers read from an archive) is not filled with zeros first;
+// SetSize still gives new elements their value.
 #pragma once
 
 #include "platform/CString.h"
@@ -8,8 +12,41 @@
 #include "platform/Object.h"
 
 #include <cstddef>
+#include <memory>
+#include <type_traits>
 #include <utility>
 #include <vector>
+
+namespace kal {
+
+// An allocator whose default construction leaves numbers as they are.
+template <class T, class Base = std::allocator<T>>
+class DefaultInitAllocator : public Base {
+public:
+    template <class U>
+    struct rebind {
+        using other = DefaultInitAllocator<U, typename std::allocator_traits<Base>::template rebind_alloc<U>>;
+    };
+    using Base::Base;
+    DefaultInitAllocator() = default;
+    template <class U, class B>
+    DefaultInitAllocator(const DefaultInitAllocator<U, B>& other) noexcept : Base(other)
+    {
+    }
+
+    template <class U>
+    void construct(U* p) noexcept(std::is_nothrow_default_constructible_v<U>)
+    {
+        ::new (static_cast<void*>(p)) U;
+    }
+    template <class U, class... Args>
+    void construct(U* p, Args&&... args)
+    {
+        std::allocator_traits<Base>::construct(static_cast<Base&>(*this), p, std::forward<Args>(args)...);
+    }
+};
+
+} // namespace kal
 
 template <class T>
 class CArray : public CObject {
@@ -53,7 +90,7 @@ public:
     {
         if (size < 0)
             throw CInvalidArgException();
-        m_data.resize(static_cast<std::size_t>(size));
+        m_data.resize(static_cast<std::size_t>(size), T{});
     }
     void Copy(const CArray& other) { if (&other != this) m_data = other.m_data; }
     void Append(const CArray& other) { m_data.insert(m_data.end(), other.m_data.begin(), other.m_data.end()); }
@@ -66,9 +103,11 @@ public:
 
     friend bool operator==(const CArray& a, const CArray& b) { return a.m_data == b.m_data; }
 
+    using Storage = std::vector<T, kal::DefaultInitAllocator<T>>;
+
 protected:
-    std::vector<T>& Items() { return m_data; }
-    const std::vector<T>& Items() const { return m_data; }
+    Storage& Items() { return m_data; }
+    const Storage& Items() const { return m_data; }
 
 private:
     std::size_t Checked(int index) const
@@ -78,7 +117,7 @@ private:
         return static_cast<std::size_t>(index);
     }
 
-    std::vector<T> m_data;
+    Storage m_data;
 };
 
 using CStringArray = CArray<CString>;

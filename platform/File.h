@@ -36,6 +36,13 @@ public:
     virtual void Close();
     virtual ULONGLONG GetLength() const;
     virtual ULONGLONG GetPosition() const;
+    // A hint that `count` bytes are about to be written (a memory file makes
+    // room for them at once).
+    virtual void ReserveForWrite(std::size_t) {}
+    // The next `count` bytes where they already are, the position moved past
+    // them; null when the file cannot show them so (a disk file, or fewer
+    // left). Readers then copy them with Read.
+    virtual const BYTE* ReadInPlace(std::size_t) { return nullptr; }
 
     const CString& GetFilePath() const { return m_strPath; }
 
@@ -60,6 +67,15 @@ public:
     ULONGLONG GetPosition() const override { return m_position; }
 
     void SeekToBegin() { m_position = 0; }
+    void ReserveForWrite(std::size_t count) override { m_data.reserve(m_position + count); }
+    const BYTE* ReadInPlace(std::size_t count) override
+    {
+        if (count > m_data.size() - m_position)
+            return nullptr;
+        const BYTE* bytes = m_data.data() + m_position;
+        m_position += count;
+        return bytes;
+    }
     const std::vector<BYTE>& Data() const { return m_data; }
     std::vector<BYTE> Detach() { m_position = 0; return std::move(m_data); }
 
