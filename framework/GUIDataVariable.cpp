@@ -2,14 +2,26 @@
 
 #include "framework/GUIArray.h"
 
-#include <cstring>
-
 IMPLEMENT_SERIAL(CGUIDataVariable, CObject, 1)
 
-CGUIDataVariable::CGUIDataVariable(const CString& name, NmsEnum::VARIABLETYPE type, int column, const CString& label,
-                                   int selected)
-    : m_strName(name), m_nType(type), m_nColumn(column), m_strLabel(label), m_nSelected(selected)
+static_assert(sizeof(CGUIDataVariable) <= 32, "a variable list of a million entries stays within 32 MB");
+
+void CGUIDataVariable::Texts::Free(Texts* texts) noexcept
 {
+    delete texts;
+}
+
+const CString& CGUIDataVariable::Empty()
+{
+    static const CString empty;
+    return empty;
+}
+
+void CGUIDataVariable::SetTexts(const CString& name, const CString& label)
+{
+    Texts* replacement = Texts::Make(name, label);
+    Texts::Release(m_texts);
+    m_texts = replacement;
 }
 
 void CGUIDataVariable::GetDataVariableList(CGUIArray<CGUIDataVariable>& list) const
@@ -17,28 +29,17 @@ void CGUIDataVariable::GetDataVariableList(CGUIArray<CGUIDataVariable>& list) co
     list.Add(*this);
 }
 
-void CGUIDataVariable::ToBlock(unsigned char* block) const
-{
-    const int image[6] = {0, 0, static_cast<int>(m_nType), m_nColumn, 0, m_nSelected};
-    std::memcpy(block, image, kBlockSize);
-}
-
-CGUIDataVariable CGUIDataVariable::FromBlock(const unsigned char* block)
-{
-    int image[6];
-    std::memcpy(image, block, kBlockSize);
-    return CGUIDataVariable({}, static_cast<NmsEnum::VARIABLETYPE>(image[2]), image[3], {}, image[5]);
-}
-
 void CGUIDataVariable::Serialize(CArchive& ar)
 {
     if (ar.HasNamedLists()) {
         if (ar.IsStoring()) {
-            ar << m_strName << static_cast<int>(m_nType) << m_nColumn << m_strLabel << m_nSelected;
+            ar << GetVariableName() << static_cast<int>(m_nType) << m_nColumn << GetLabel() << m_nSelected;
         } else {
+            CString name, label;
             int type = 0;
-            ar >> m_strName >> type >> m_nColumn >> m_strLabel >> m_nSelected;
+            ar >> name >> type >> m_nColumn >> label >> m_nSelected;
             m_nType = static_cast<NmsEnum::VARIABLETYPE>(type);
+            SetTexts(name, label);
         }
         return;
     }
