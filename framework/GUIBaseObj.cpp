@@ -1,6 +1,7 @@
 #include "framework/GUIBaseObj.h"
 
 #include "host/KalAssertDlg.h"
+#include "platform/TextIndex.h"
 
 #include <unordered_set>
 
@@ -72,28 +73,31 @@ CString CGUIBaseObj::GetCommandString() const
 void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUIArray<CGUIDataVariable>* source,
                                  int bAdd)
 {
-    if (!target || !source)
+    if (!target || !source || target == source)
         return;
-    // Views into the two lists' names: neither list changes until the end.
-    std::unordered_set<std::u16string_view> inSource;
-    inSource.reserve(static_cast<std::size_t>(source->GetSize()));
-    for (const auto& v : *source)
-        inSource.insert(v.GetVariableName().Str());
-
+    // A list that already matches (a dialog opened again) costs nothing.
+    if (CompareTwoListCtrlArrays(*target, *source))
+        return; // the same names in the same order: the target keeps its entries
+    const auto nameOf = [](const CGUIArray<CGUIDataVariable>& list) {
+        return [&list](int i) -> std::u16string_view { return list[i].GetVariableName().Str(); };
+    };
+    CTextIndex inSource;
+    inSource.Build(source->GetSize(), nameOf(*source));
+    // Which source entries the target keeps, so that each is added once.
+    std::vector<bool> kept(static_cast<std::size_t>(source->GetSize()), false);
     CGUIArray<CGUIDataVariable> updated;
     updated.Reserve(static_cast<std::size_t>(bAdd ? source->GetSize() : target->GetSize()));
-    std::unordered_set<std::u16string_view> kept;
-    kept.reserve(inSource.size());
     for (const auto& v : *target) {
-        if (inSource.count(v.GetVariableName().Str()) && kept.insert(v.GetVariableName().Str()).second)
+        const int at = inSource.Find(v.GetVariableName().Str(), nameOf(*source));
+        if (at >= 0 && !kept[static_cast<std::size_t>(at)]) {
+            kept[static_cast<std::size_t>(at)] = true;
             updated.Add(v);
-    }
-    if (bAdd) {
-        for (const auto& v : *source) {
-            if (kept.insert(v.GetVariableName().Str()).second)
-                updated.Add(v);
         }
     }
+    if (bAdd)
+        for (int i = 0; i < source->GetSize(); ++i)
+            if (!kept[static_cast<std::size_t>(i)] && inSource.Find((*source)[i].GetVariableName().Str(), nameOf(*source)) == i)
+                updated.Add((*source)[i]); // once, however often the source names it
     *target = std::move(updated);
 }
 

@@ -20,7 +20,6 @@ void CGUIListCtrl::SetVariables(const CGUIArray<CGUIDataVariable>& variables, bo
     SetItems(std::move(names));
     if (!selected.empty())
         SetSelection(selected);
-    Reindex();
     m_nListState = previous == stateFilling ? stateIdle : previous;
 }
 
@@ -32,21 +31,14 @@ CGUIArray<CGUIDataVariable> CGUIListCtrl::GetVariables() const
     return result;
 }
 
-int CGUIListCtrl::FindVariable(const CString& name) const
-{
-    const auto it = m_index.find(name);
-    return it == m_index.end() ? -1 : it->second;
-}
-
 std::vector<int> CGUIListCtrl::AddVariables(const std::vector<CGUIDataVariable>& variables, bool bUnique)
 {
     std::vector<int> added;
     for (const auto& v : variables) {
-        if (bUnique && m_index.count(v.GetVariableName()))
+        if (bUnique && ContainsVariable(v.GetVariableName()))
             continue;
         const int at = m_variables.Add(v);
         m_variables[at].SetSelected(0);
-        m_index.emplace(v.GetVariableName(), at);
         InsertItem(at, v.GetVariableName());
         added.push_back(at);
     }
@@ -73,7 +65,6 @@ void CGUIListCtrl::RemoveVariables(const std::vector<int>& indexes)
         names.push_back(v.GetVariableName());
     SetItems(std::move(names));
     SetSelection(keptSelection);
-    Reindex();
 }
 
 std::vector<CGUIDataVariable> CGUIListCtrl::GetSelectedVariables() const
@@ -98,12 +89,4 @@ void CGUIListCtrl::ResetOptions()
 {
     SetSelection({});
     m_nListState = stateIdle;
-}
-
-void CGUIListCtrl::Reindex()
-{
-    m_index.clear();
-    m_index.reserve(static_cast<std::size_t>(m_variables.GetSize()));
-    for (int i = 0; i < m_variables.GetSize(); ++i)
-        m_index.emplace(m_variables[i].GetVariableName(), i);
 }

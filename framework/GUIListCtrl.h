@@ -7,7 +7,6 @@
 #include "platform/Collections.h"
 #include "platform/Wnd.h"
 
-#include <unordered_map>
 
 struct CMenuIdStr {
     CString caption;
@@ -34,7 +33,8 @@ public:
     // The variables in list order, each with its current selection flag.
     CGUIArray<CGUIDataVariable> GetVariables() const;
     const CGUIDataVariable& GetVariable(int index) const { return m_variables[index]; }
-    int FindVariable(const CString& name) const;
+    // An item's text is its variable's name: the list's own index finds it.
+    int FindVariable(const CString& name) const { return FindItem(name); }
     bool ContainsVariable(const CString& name) const { return FindVariable(name) >= 0; }
 
     // Appends variables, skipping names already listed when bUnique is set;
@@ -54,11 +54,8 @@ public:
     void ResetOptions();
 
 private:
-    void Reindex();
-
     bool m_bSource;
     int m_nListState = stateIdle;
     CGUIArray<CGUIDataVariable> m_variables;
-    std::unordered_map<CString, int> m_index; // name -> item
     CArray<CMenuIdStr> m_menu;
 };

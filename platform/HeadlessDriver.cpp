@@ -67,21 +67,15 @@ bool CHeadlessSession::Page(int index)
 bool CHeadlessSession::Select(UINT list, const std::vector<CString>& names)
 {
     auto& control = As<CListCtrl>(list, "a list");
-    // One pass over the list, whatever the number of names.
-    std::vector<CString> texts;
-    texts.reserve(static_cast<std::size_t>(control.GetItemCount()));
-    for (int i = 0; i < control.GetItemCount(); ++i)
-        texts.push_back(control.GetItemText(i));
-    std::unordered_map<std::u16string_view, int> index;
-    index.reserve(texts.size());
-    for (int i = static_cast<int>(texts.size()) - 1; i >= 0; --i)
-        index[texts[static_cast<std::size_t>(i)].Str()] = i;
+    // The list's own index: one pass over the list, whatever the number of
+    // names.
     std::vector<int> indexes;
+    indexes.reserve(names.size());
     for (const auto& name : names) {
-        const auto it = index.find(name.Str());
-        if (it == index.end())
+        const int at = control.FindItem(name.Str());
+        if (at < 0)
             throw HeadlessError("list " + IdText(list) + " has no item \"" + name.ToUtf8() + "\"");
-        indexes.push_back(it->second);
+        indexes.push_back(at);
     }
     return CUserInput::SelectItems(control, indexes);
 }

@@ -196,7 +196,14 @@ CString CComboBox::GetLBText(int index) const
 int CListCtrl::InsertItem(int index, const CString& text)
 {
     index = std::clamp(index, 0, GetItemCount());
+    const bool appended = index == GetItemCount();
     m_items.insert(m_items.begin() + index, Item{text, false});
+    // An item appended extends the index; one inserted renumbers the rest.
+    const auto textOf = [this](int i) -> std::u16string_view { return m_items[static_cast<std::size_t>(i)].text; };
+    if (!appended || !m_index.Add(index, textOf))
+        m_index.Clear();
+    if (!appended)
+        ForgetSelection();
     Changed(WndAspect::Items);
     return index;
 }
@@ -206,6 +213,8 @@ BOOL CListCtrl::DeleteItem(int index)
     if (index < 0 || index >= GetItemCount())
         return FALSE;
     m_items.erase(m_items.begin() + index);
+    m_index.Clear();
+    ForgetSelection();
     Changed(WndAspect::Items);
     return TRUE;
 }
@@ -213,8 +222,19 @@ BOOL CListCtrl::DeleteItem(int index)
 BOOL CListCtrl::DeleteAllItems()
 {
     m_items.clear();
+    m_index.Clear();
+    m_selection.clear();
+    m_selectionKnown = true;
     Changed(WndAspect::Items);
     return TRUE;
+}
+
+int CListCtrl::FindItem(std::u16string_view text) const
+{
+    const auto textOf = [this](int i) -> std::u16string_view { return m_items[static_cast<std::size_t>(i)].text; };
+    if (!m_index.IsBuilt())
+        m_index.Build(GetItemCount(), textOf);
+    return m_index.Find(text, textOf);
 }
 
 CString CListCtrl::GetItemText(int index) const
@@ -232,31 +252,46 @@ void CListCtrl::SetItemSelected(int index, bool selected)
     if (index < 0 || index >= GetItemCount() || m_items[static_cast<std::size_t>(index)].selected == selected)
         return;
     m_items[static_cast<std::size_t>(index)].selected = selected;
+    ForgetSelection();
     Changed(WndAspect::Selection);
 }
 
 void CListCtrl::SetSelection(const std::vector<int>& indexes)
 {
-    for (auto& item : m_items)
-        item.selected = false;
+    // Only the items whose flag changes are touched.
+    for (const int i : Selection())
+        m_items[static_cast<std::size_t>(i)].selected = false;
+    m_selection.clear();
     for (const int i : indexes)
-        if (i >= 0 && i < GetItemCount())
+        if (i >= 0 && i < GetItemCount() && !m_items[static_cast<std::size_t>(i)].selected) {
             m_items[static_cast<std::size_t>(i)].selected = true;
+            m_selection.push_back(i);
+        }
+    std::sort(m_selection.begin(), m_selection.end());
+    m_selectionKnown = true;
     Changed(WndAspect::Selection);
+}
+
+const std::vector<int>& CListCtrl::Selection() const
+{
+    if (!m_selectionKnown) {
+        m_selection.clear();
+        for (std::size_t i = 0; i < m_items.size(); ++i)
+            if (m_items[i].selected)
+                m_selection.push_back(static_cast<int>(i));
+        m_selectionKnown = true;
+    }
+    return m_selection;
 }
 
 std::vector<int> CListCtrl::GetSelectedItems() const
 {
-    std::vector<int> selected;
-    for (std::size_t i = 0; i < m_items.size(); ++i)
-        if (m_items[i].selected)
-            selected.push_back(static_cast<int>(i));
-    return selected;
+    return Selection();
 }
 
 int CListCtrl::GetSelectedCount() const
 {
-    return static_cast<int>(std::count_if(m_items.begin(), m_items.end(), [](const Item& i) { return i.selected; }));
+    return static_cast<int>(Selection().size());
 }
 
 void CListCtrl::SetItems(std::vector<CString> texts)
@@ -265,6 +300,9 @@ void CListCtrl::SetItems(std::vector<CString> texts)
     m_items.reserve(texts.size());
     for (auto& text : texts)
         m_items.push_back(Item{std::move(text), false});
+    m_index.Clear();
+    m_selection.clear();
+    m_selectionKnown = true;
     Changed(WndAspect::Items);
 }
 

@@ -12,6 +12,7 @@
 #include "platform/CString.h"
 #include "platform/CmdTarget.h"
 #include "platform/DialogTemplate.h"
+#include "platform/TextIndex.h"
 
 #include <memory>
 #include <vector>
@@ -178,13 +179,25 @@ public:
     int GetSelectedCount() const;
     // Replaces every item at once, selection cleared; one change for views.
     void SetItems(std::vector<CString> texts);
+    // The first item showing `text`, or -1. The index behind it is built
+    // when first asked after a change and follows items appended since.
+    int FindItem(std::u16string_view text) const;
 
-protected:
+private:
     struct Item {
         CString text;
         bool selected = false;
     };
     std::vector<Item> m_items;
+
+    // The selected items in order, kept beside the items' flags so that a
+    // list of 100,000 entries answers "what is selected" by its selection.
+    void ForgetSelection() { m_selectionKnown = false; }
+    const std::vector<int>& Selection() const;
+
+    mutable CTextIndex m_index;
+    mutable std::vector<int> m_selection;
+    mutable bool m_selectionKnown = true;
 };
 
 // Tab control: captions and, per tab, the page window it shows. A tab the

@@ -31,6 +31,20 @@ TEST(UpdateCtrlList, KeepsOwnOrderThenAddsWhatTheSourceHasInSourceOrder)
     obj.UpdateCtrlList(&keepOnly, &source, 0);
     EXPECT_EQ(Names(keepOnly), (std::vector<std::u16string>{u"D", u"B"}));
 
+    // A data sheet naming a column twice lists it once; an equal list keeps
+    // its own entries (their selection flags among them).
+    CGUIArray<CGUIDataVariable> empty;
+    obj.UpdateCtrlList(&empty, &keepOnly, 1);
+    EXPECT_EQ(Names(empty), (std::vector<std::u16string>{u"D", u"B"}));
+    auto twice = Vars({u"X", u"Y", u"X"});
+    CGUIArray<CGUIDataVariable> fresh;
+    obj.UpdateCtrlList(&fresh, &twice, 1);
+    EXPECT_EQ(Names(fresh), (std::vector<std::u16string>{u"X", u"Y"}));
+    auto same = Vars({u"X", u"Y"});
+    same[1].SetSelected(1);
+    obj.UpdateCtrlList(&same, &fresh, 1);
+    EXPECT_EQ(same[1].IsSelected(), 1);
+
     obj.UpdateCtrlList(nullptr, &source, 1); // no target: nothing to do
 }
 
