@@ -1,13 +1,14 @@
 #include "Msg/RegressionMsg.h"
 
 #include "Msg/LaunchDialog.h"
+#include "private/Regression/KDGLogitTabDlg.h"
 #include "private/Regression/KDGRegressionTabDlg.h"
 
 namespace {
 
 const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2001, CTslsDlg, CTslsData),
-    KAL_MENU_ROW_UNAVAILABLE(2004, CLogitTabDlg, CLogitTabData, 2146, 2216, 2145),
+    KAL_MENU_ROW(2004, CLogitTabDlg, CLogitTabData, 2146, 2216, 2145),
     KAL_MENU_ROW_UNAVAILABLE(2005, CLogitPostDlg, CLogitPostData),
     KAL_MENU_ROW_UNAVAILABLE(2006, CLogitQuantilesDlg, CLogitQuantilesData),
     KAL_MENU_ROW_UNAVAILABLE(2007, CLogitSimulateDlg, CLogitSimulateData),

@@ -1,0 +1,3 @@
+#include "private/Regression/KDGLogitTabData.h"
+
+IMPLEMENT_SERIAL(CLogitTabData, CGUITabData, 1)
