@@ -255,6 +255,15 @@ std::shared_ptr<const DialogTemplate> ResourceTable::GetDialogTemplate(UINT id)
     return it == m_dialogs.end() ? nullptr : it->second;
 }
 
+std::vector<UINT> ResourceTable::GetDialogIds() const
+{
+    std::vector<UINT> ids;
+    ids.reserve(m_dialogs.size());
+    for (const auto& [id, dialog] : m_dialogs)
+        ids.push_back(id);
+    return ids;
+}
+
 CString ResourceTable::GetMessageText(UINT id) const
 {
     const auto it = m_messages.find(id);

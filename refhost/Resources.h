@@ -45,6 +45,8 @@ public:
 
     // Message `id`, or an empty text.
     CString GetMessageText(UINT id) const;
+    // The ids of every dialog template, ascending.
+    std::vector<UINT> GetDialogIds() const;
     const std::vector<MenuNode>& GetMenuBar() const { return m_menus; }
 
 private:
