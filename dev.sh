@@ -9,11 +9,13 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
+# Fonts: DejaVu draws Latin, Greek, Cyrillic, Arabic and Hebrew names and
+# stays the dialogs' font; Noto CJK adds Chinese, Japanese and Korean.
 PACKAGES=(
     cmake ninja-build g++ clang libclang-rt-14-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     nlohmann-json3-dev libcli11-dev libcsv-dev
-    qt6-base-dev fonts-dejavu-core pkgconf
+    qt6-base-dev fonts-dejavu-core fonts-noto-cjk pkgconf
 )
 
 deps() {
