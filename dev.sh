@@ -5,15 +5,18 @@
 #   ./dev.sh fuzz [S]   build the libFuzzer targets with clang, run each S seconds (60)
 #   ./dev.sh bench      build and run the benchmarks
 #   ./dev.sh package    build the Debian package (build/package/*.deb)
+#   ./dev.sh screenshots  draw every page of every available dialog (docs/images, docs/gallery.md)
 #   ./dev.sh deps       only install the build dependencies
 set -euo pipefail
 cd "$(dirname "$0")"
 
+# Fonts: DejaVu draws Latin, Greek, Cyrillic, Arabic and Hebrew names and
+# stays the dialogs' font; Noto CJK adds Chinese, Japanese and Korean.
 PACKAGES=(
     cmake ninja-build g++ clang libclang-rt-14-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     nlohmann-json3-dev libcli11-dev libcsv-dev
-    qt6-base-dev fonts-dejavu-core pkgconf
+    qt6-base-dev fonts-dejavu-core fonts-noto-cjk pkgconf
 )
 
 deps() {
@@ -42,7 +45,102 @@ build() {
 }
 
 usage() {
-    sed -n '2,8p' "$0"
+    sed -n '2,9p' "$0"
+}
+
+# The GitHub anchor of a heading: lower case, punctuation dropped, blanks
+# turned into hyphens.
+anchor() {
+    printf '%s' "$1" | tr '[:upper:]' '[:lower:]' | tr -cd 'a-z0-9 _-' | tr ' ' '-'
+}
+
+# The text of menu command ID, without its mnemonic and dots.
+menu_text() {
+    grep -B1 "\"id\": $1\b" resources/menus.json | sed -n 's/.*"text": "\(.*\)",/\1/p' | tr -d '&' | sed 's/\.\.\.$//'
+}
+
+# The page an action script ends on (0 without a page line).
+script_page() {
+    local page
+    page=$(sed -n 's/^page \([0-9]*\).*/\1/p' "$1" | tail -n 1)
+    echo "${page:-0}"
+}
+
+# screenshots: every page of every available dialog, drawn by kalhost
+# offscreen into docs/images, and docs/gallery.md showing them all. A page
+# is drawn by each action script of docs/gallery that opens its dialog and
+# ends on it (the picture takes the script's name, its first comment is the
+# caption, a "# kalhost OPTIONS" line gives kalhost options); a page
+# without a script is drawn as it opens, and named after its dialog.
+screenshots() {
+    local k=build/default/bin/kalhost
+    local work
+    work=$(mktemp -d)
+    trap 'rm -rf "$work"' RETURN
+    local failed=0 md="$work/gallery.md"
+    rm -f docs/images/*.png
+    cat >"$md" <<'TEXT'
+# Gallery
+
+Every page of every dialog the module holds, as the Qt view draws it (kalhost
+`--gui --screenshot`, offscreen). Each picture comes from the action script of
+the same name in [`gallery/`](gallery); `./dev.sh screenshots` draws them all
+again. The section titles lead to the lines each dialog writes.
+TEXT
+    # render NAME ID OPTIONS < ACTIONS: one picture; a failure is reported.
+    render() {
+        local name="$1" id="$2" options="$3" status=0
+        # shellcheck disable=SC2086 # the options are words
+        "$k" $options open "$id" --actions - --gui --screenshot "docs/images/$name.png" \
+            >"$work/out" 2>"$work/err" || status=$?
+        if [ "$status" -ne 0 ] || [ -s "$work/err" ]; then
+            echo "!! docs/images/$name.png: kalhost ended with status $status" >&2
+            cat "$work/err" >&2
+            failed=1
+        fi
+    }
+    local id class title page script name caption
+    for id in $("$k" list | awk '$NF == "available" && $(NF-1) != "not" {print $1}'); do
+        class=$("$k" list | awk -v id="$id" '$1 == id {print $3}')
+        title=$(sed -n "s/^## \(.*($id).*\)$/\1/p" docs/commands.md | head -n 1)
+        if [ -z "$title" ]; then
+            printf '\n## %s (%s)\n' "$class" "$id" >>"$md"
+        elif ! grep -qF "## [$title]" "$md"; then
+            printf '\n## [%s](commands.md#%s)\n' "$title" "$(anchor "$title")" >>"$md"
+        fi
+        # Dialogs that share a section: each under its menu entry's name.
+        if [ "$(grep -c "^## .*($id)" docs/commands.md)" -eq 1 ] && [ "$(grep -o '([0-9]*)' <<<"$title" | wc -l)" -gt 1 ]; then
+            printf '\n### %s (%s)\n' "$(menu_text "$id")" "$id" >>"$md"
+        fi
+        for page in $(seq 0 20); do
+            printf 'page %d\ncancel\n' "$page" | "$k" open "$id" --actions - >/dev/null 2>"$work/err" || true
+            if grep -q "no page\|has no pages" "$work/err"; then
+                break
+            elif grep -q "not available" "$work/err"; then
+                continue
+            fi
+            local drawn=0
+            for script in docs/gallery/*.kal; do
+                grep -qx "open $id" "$script" || continue
+                [ "$(script_page "$script")" = "$page" ] || continue
+                name=$(basename "$script" .kal)
+                caption=$(sed -n '/^[^#]/q; /^# kalhost /d; s/^# *//p' "$script" | paste -sd ' ')
+                grep -v '^open ' "$script" | render "$name" "$id" "$(sed -n 's/^# kalhost //p' "$script" | head -n 1)"
+                printf '\n![%s](images/%s.png)\n\n%s ([script](gallery/%s.kal))\n' \
+                    "$caption" "$name" "$caption" "$name" >>"$md"
+                drawn=1
+            done
+            if [ "$drawn" -eq 0 ]; then
+                name="$(echo "$class" | sed 's/^C//; s/TabDlg$//; s/Dlg$//' | tr '[:upper:]' '[:lower:]')-page-$((page + 1))"
+                echo "note: no script in docs/gallery draws page $page of command $id; drawn as it opens" >&2
+                printf 'page %d\n' "$page" | render "$name" "$id" ""
+                printf '\n![Page %d](images/%s.png)\n' "$((page + 1))" "$name" >>"$md"
+            fi
+        done
+    done
+    cp "$md" docs/gallery.md
+    ls docs/images/*.png
+    return "$failed"
 }
 
 case "${1:-}" in
@@ -88,6 +186,11 @@ package)
     cmake --build build/package
     (cd build/package && cpack -G DEB)
     ls build/package/*.deb
+    ;;
+screenshots)
+    deps
+    build default kalhost
+    screenshots
     ;;
 deps)
     deps

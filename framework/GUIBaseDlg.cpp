@@ -115,6 +115,15 @@ CStringArray CGUIBaseDlg::GetStringList(int, int)
 void CGUIBaseDlg::OnInPlaceEditDestroyed(CWnd*, int, int, CString) {}
 void CGUIBaseDlg::MoveSourceListToTargetEditOnDblClk() {}
 void CGUIBaseDlg::TempHelper() {}
+
+UINT CGUIBaseDlg::GetHelpContext()
+{
+    if (const UINT context = CDDXVDlg::GetHelpContext())
+        return context;
+    CGUIBaseObj* data = nullptr;
+    GetData(data);
+    return data ? data->GetDialogID() : 0;
+}
 void CGUIBaseDlg::ToolbarButtonCommand(UINT) {}
 
 // --- The data cycle -----------------------------------------------------------

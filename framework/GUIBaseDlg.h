@@ -202,6 +202,10 @@ public:
     void ReportAssertion(int line) const;
     virtual const char* GetSourceFile() const { return "framework/GUIBaseDlg"; }
 
+    // The help context: the one set, else the menu command whose settings
+    // the dialog edits, so that Help opens the section of that analysis.
+    UINT GetHelpContext() override;
+
     // User input the window model routes here.
     void OnDragOver(CWnd* over) override;
     void OnDragRelease(CWnd* over) override;

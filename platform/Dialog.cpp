@@ -29,6 +29,12 @@ kal::MessageBoxSink& MessageSink()
     return sink;
 }
 
+kal::HelpSink& HelpService()
+{
+    static kal::HelpSink sink;
+    return sink;
+}
+
 std::unique_ptr<CWnd> MakeControl(ControlKind kind)
 {
     switch (kind) {
@@ -71,6 +77,11 @@ void SetMessageBoxSink(MessageBoxSink sink)
     MessageSink() = std::move(sink);
 }
 
+HelpSink SetHelpSink(HelpSink sink)
+{
+    return std::exchange(HelpService(), std::move(sink));
+}
+
 } // namespace kal
 
 void AfxMessageBox(UINT promptId)
@@ -79,6 +90,12 @@ void AfxMessageBox(UINT promptId)
         sink(promptId);
     else
         std::cerr << "message " << promptId << std::endl;
+}
+
+void AfxWinHelp(UINT context)
+{
+    if (const auto& sink = HelpService())
+        sink(context);
 }
 
 CDialog::CDialog(UINT templateId, CWnd* parent) : m_nTemplateID(templateId)
@@ -262,6 +279,16 @@ std::vector<CButton*> CDialog::GetRadioGroup(const CWnd* radio) const
     return found ? group : std::vector<CButton*>();
 }
 
+UINT CDialog::GetHelpContext()
+{
+    return m_nHelpContext;
+}
+
+void CDialog::OnHelp()
+{
+    AfxWinHelp(GetHelpContext());
+}
+
 void CDialog::OnDragOver(CWnd*) {}
 void CDialog::OnDragRelease(CWnd*) {}
 void CDialog::OnContextMenu(CWnd*) {}
@@ -278,6 +305,10 @@ BOOL CDialog::OnCmdMsg(UINT nMessage, int nCode, UINT nID, NMHDR* pNMHDR, LRESUL
         }
         if (nID == static_cast<UINT>(IDCANCEL)) {
             OnCancel();
+            return TRUE;
+        }
+        if (nID == static_cast<UINT>(IDHELP)) {
+            OnHelp();
             return TRUE;
         }
     }

@@ -57,6 +57,14 @@ public:
     // button or starts a group of its own.
     std::vector<CButton*> GetRadioGroup(const CWnd* radio) const;
 
+    // The help context the dialog's Help button (IDHELP) and the F1 key
+    // show: 0 for none, else an id the help service knows (the analysis's
+    // menu command).
+    void SetHelpContext(UINT context) { m_nHelpContext = context; }
+    virtual UINT GetHelpContext();
+    // The Help button: asks the help service for the dialog's help context.
+    virtual void OnHelp();
+
     // User input routed to the dialog (see CUserInput).
     virtual void OnDragOver(CWnd* over);
     virtual void OnDragRelease(CWnd* over);
@@ -79,6 +87,7 @@ private:
     bool m_bModal = false;
     bool m_bEnded = false;
     int m_nResult = 0;
+    UINT m_nHelpContext = 0;
 };
 
 // Pop-up menus and modal runs are the driver's.
@@ -106,7 +115,14 @@ using MessageBoxSink = std::function<void(UINT messageId)>;
 // Where AfxMessageBox reports go (installed by the framework).
 void SetMessageBoxSink(MessageBoxSink sink);
 
+using HelpSink = std::function<void(UINT context)>;
+// The help service behind AfxWinHelp (installed by the host); returns the
+// previous one.
+HelpSink SetHelpSink(HelpSink sink);
+
 } // namespace kal
 
 // Shows message `promptId` to the user.
 void AfxMessageBox(UINT promptId);
+// Shows the help of `context`; without a help service it does nothing.
+void AfxWinHelp(UINT context);

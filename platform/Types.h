@@ -24,5 +24,7 @@ inline constexpr BOOL FALSE = 0;
 // Dialog results.
 inline constexpr int IDOK = 1;
 inline constexpr int IDCANCEL = 2;
+// A dialog's Help button.
+inline constexpr int IDHELP = 9;
 
 static_assert(sizeof(int) == 4 && sizeof(double) == 8, "archive layouts assume 32-bit int and 64-bit double");

@@ -3,6 +3,7 @@
 #include "host/IKVMsg.h"
 #include "platform/HeadlessDriver.h"
 #include "refhost/ActionScript.h"
+#include "refhost/HelpFiles.h"
 #include "refhost/HostGlobal.h"
 #include "refhost/ModuleLoader.h"
 #include "refhost/Resources.h"
@@ -20,6 +21,7 @@
 #include <fstream>
 #include <iomanip>
 #include <iostream>
+#include <functional>
 #include <optional>
 #include <set>
 #include <sstream>
@@ -148,6 +150,7 @@ public:
 
     HostGlobal& Host() { return m_host; }
     LoadedModule& Module() { return *m_module; }
+    const ResourceTable& Resources() const { return *m_resources; }
 
     bool HasMenuCommand(UINT id) const { return !HandlerOf(m_resources->GetMenuBar(), id).empty(); }
 
@@ -261,6 +264,33 @@ int StatusOf(const ScriptRunner& runner, const std::string& script)
     }
 }
 
+// The help service while kalhost runs dialogs: Help names the topic of the
+// analysis and where its document is; `show` tells the user.
+class HelpScope {
+public:
+    using Show = std::function<void(UINT context, const HelpDocument& help)>;
+
+    HelpScope(const Session& session, Show show)
+        : m_previous(kal::SetHelpSink([&session, show = std::move(show)](UINT context) {
+              show(context, FindHelpDocument(session.Resources().GetHelpTopic(context), ProgramDirectory()));
+          }))
+    {
+    }
+    ~HelpScope() { kal::SetHelpSink(std::move(m_previous)); }
+    HelpScope(const HelpScope&) = delete;
+    HelpScope& operator=(const HelpScope&) = delete;
+
+    // On standard error, where scripts and their readers see it.
+    static void Print(UINT context, const HelpDocument& help)
+    {
+        std::cout.flush();
+        std::cerr << "kalhost: help for command " << context << ": " << help.Describe() << std::endl;
+    }
+
+private:
+    kal::HelpSink m_previous;
+};
+
 // Makes a driver the active one for a scope.
 class DriverScope {
 public:
@@ -334,6 +364,12 @@ int OpenInWindow(Session& session, const Options& options, int& argc, char** arg
         HostGlobal& host;
         ~PresenterReset() { host.SetMessagePresenter({}); }
     } reset{session.Host()};
+    // A user at the window gets the document in the desktop's viewer.
+    std::optional<HelpScope> help;
+    if (options.screenshotFile.empty())
+        help.emplace(session, [&view](UINT, const HelpDocument& document) {
+            view->ShowHelp(document.Url(), document.Describe());
+        });
     const int status = RunOpen(session, options, view->Driver(),
                                [&view](CHeadlessDriver::Script script) { view->SetScript(std::move(script)); });
     // A picture that was written is what a screenshot run is for, whether or
@@ -525,6 +561,7 @@ int Run(int argc, char** argv)
             return CheckOutput(DumpStore(session, options.dumpFile));
         }
         Session session(options);
+        HelpScope help(session, &HelpScope::Print);
         int status = kExitUsage;
         try {
             if (*list)

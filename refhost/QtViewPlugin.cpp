@@ -21,6 +21,12 @@ public:
                              QString::fromUtf8(text.ToUtf8().c_str()));
     }
 
+    void ShowHelp(const std::string& url, const std::string& description) override
+    {
+        kalhost::qt::ShowHelpDocument(QApplication::activeWindow(), QString::fromStdString(url),
+                                      QString::fromStdString(description));
+    }
+
 private:
     kalhost::qt::QtApplication m_application;
     kalhost::qt::QtDialogDriver m_driver;

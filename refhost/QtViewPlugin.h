@@ -21,6 +21,9 @@ public:
     virtual bool LastLeftOpen() const = 0;
     // A message box over the active window; returns when the user closes it.
     virtual void ShowMessage(const CString& text) = 0;
+    // Opens the document at `url` in the desktop's viewer; without a URL, or
+    // when it cannot be opened, says so with `description`.
+    virtual void ShowHelp(const std::string& url, const std::string& description) = 0;
 };
 
 } // namespace kalhost

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <functional>
 #include <sstream>
 
 namespace kalhost {
@@ -138,6 +139,11 @@ MenuNode ParseMenu(const json& m, const std::string& inheritedHandler, const std
         if (node.handler.empty())
             throw ResourceError(where + ": menu command " + std::to_string(node.id) + " has no handler");
     }
+    if (m.contains("help")) {
+        if (!m["help"].is_string() || !node.id)
+            throw ResourceError(where + ": \"help\" names the topic of a menu command as a text");
+        node.help = m["help"].get<std::string>();
+    }
     if (m.contains("items"))
         for (const auto& item : m["items"])
             node.items.push_back(ParseMenu(item, node.handler, where));
@@ -253,6 +259,29 @@ std::shared_ptr<const DialogTemplate> ResourceTable::GetDialogTemplate(UINT id)
 {
     const auto it = m_dialogs.find(id);
     return it == m_dialogs.end() ? nullptr : it->second;
+}
+
+std::string ResourceTable::GetHelpTopic(UINT id) const
+{
+    const std::function<std::string(const std::vector<MenuNode>&)> find = [&](const std::vector<MenuNode>& nodes) {
+        for (const auto& node : nodes) {
+            if (node.id == id && id != 0)
+                return node.help;
+            if (auto topic = find(node.items); !topic.empty())
+                return topic;
+        }
+        return std::string();
+    };
+    return find(m_menus);
+}
+
+std::vector<UINT> ResourceTable::GetDialogIds() const
+{
+    std::vector<UINT> ids;
+    ids.reserve(m_dialogs.size());
+    for (const auto& [id, dialog] : m_dialogs)
+        ids.push_back(id);
+    return ids;
 }
 
 CString ResourceTable::GetMessageText(UINT id) const

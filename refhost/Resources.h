@@ -19,6 +19,7 @@ struct MenuNode {
     CString text;
     UINT id = 0;            // 0 for a submenu
     std::string handler;    // menu-group handler class that receives the command
+    std::string help;       // the command's help topic: "document.md#section", or empty
     std::vector<MenuNode> items;
 };
 
@@ -45,7 +46,11 @@ public:
 
     // Message `id`, or an empty text.
     CString GetMessageText(UINT id) const;
+    // The ids of every dialog template, ascending.
+    std::vector<UINT> GetDialogIds() const;
     const std::vector<MenuNode>& GetMenuBar() const { return m_menus; }
+    // The help topic the menu gives command `id`, or empty.
+    std::string GetHelpTopic(UINT id) const;
 
 private:
     std::map<UINT, CString> m_strings;

@@ -6,6 +6,9 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QUrl>
 #include <QFile>
 #include <QImageWriter>
 #include <QTemporaryDir>
@@ -141,6 +144,21 @@ UINT QtDialogDriver::TrackPopupMenu(CWnd& owner, const CMenu& menu)
     const QPoint position = run ? run->TakeMenuPosition(owner) : QCursor::pos();
     const QAction* chosen = popup.exec(position);
     return chosen && chosen->isEnabled() ? chosen->data().toUInt() : 0;
+}
+
+// --- Help --------------------------------------------------------------------------
+
+void ShowHelpDocument(QWidget* parent, const QString& url, const QString& description)
+{
+    if (!url.isEmpty() && QDesktopServices::openUrl(QUrl(url)))
+        return;
+    QMessageBox box(QMessageBox::Information, QStringLiteral("Help"),
+                    url.isEmpty() ? QStringLiteral("The help of this analysis cannot be shown.")
+                                  : QStringLiteral("The desktop has no viewer for the help document."),
+                    QMessageBox::Ok, parent);
+    box.setObjectName(QStringLiteral("kalHelpMessage"));
+    box.setInformativeText(url.isEmpty() ? description : url);
+    box.exec();
 }
 
 } // namespace kalhost::qt

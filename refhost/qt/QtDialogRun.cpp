@@ -8,6 +8,7 @@
 #include <QFontMetrics>
 #include <QMetaObject>
 #include <QPixmap>
+#include <QShortcut>
 
 #include <cmath>
 
@@ -18,6 +19,9 @@ DialogRun::DialogRun(CDialog& dialog, QWidget* parent)
 {
     m_window->onReject = [this] { OnReject(); };
     m_window->setSizeGripEnabled(false);
+    auto* help = new QShortcut(QKeySequence::HelpContents, m_window.get());
+    help->setContext(Qt::WindowShortcut);
+    QObject::connect(help, &QShortcut::activated, m_window.get(), [this] { OnHelpKey(); });
 
     // Dialog units: a quarter of the font's average character width and an
     // eighth of its height.
@@ -167,6 +171,21 @@ void DialogRun::OnReject()
     else
         Input(nullptr, [this] {
             m_dialog.OnCancel();
+            return true;
+        });
+}
+
+void DialogRun::OnHelpKey()
+{
+    if (Syncing())
+        return;
+    // F1 presses the Help button; a dialog without one still shows the help
+    // of its context, if it has one.
+    if (CWnd* button = m_dialog.GetDlgItem(static_cast<UINT>(IDHELP)))
+        Input(ViewOf(button), [button] { return CUserInput::Click(*button); });
+    else if (m_dialog.GetHelpContext() != 0)
+        Input(nullptr, [this] {
+            m_dialog.OnHelp();
             return true;
         });
 }

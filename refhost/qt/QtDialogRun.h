@@ -127,6 +127,7 @@ private:
     void BuildControls(CDialog& dialog, QWidget* container);
     void CloseIfEnded();
     void OnReject();
+    void OnHelpKey();
 
     CDialog& m_dialog;
     std::unique_ptr<ModelDialog> m_window;

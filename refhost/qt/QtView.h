@@ -4,9 +4,13 @@
 
 #include "platform/HeadlessDriver.h"
 
+#include <QString>
+
 #include <functional>
 #include <memory>
 #include <string>
+
+class QWidget;
 
 namespace kalhost::qt {
 
@@ -51,5 +55,10 @@ private:
     struct Impl;
     std::unique_ptr<Impl> m_impl;
 };
+
+// Opens a help document (a file URL with its section) in the desktop's
+// viewer. Without a URL, or when the desktop cannot open it, a message box
+// over `parent` says why, with `description` (where it was looked for).
+void ShowHelpDocument(QWidget* parent, const QString& url, const QString& description);
 
 } // namespace kalhost::qt

@@ -1,6 +1,8 @@
 // The views of the model's control kinds: each makes its widget, copies the
 // model's state into it and turns its signals into CUserInput calls.
 #include "framework/FileEditCtrl.h"
+#include "framework/GUIListCtrl.h"
+#include "framework/VariableKind.h"
 #include "platform/UserInput.h"
 #include "refhost/qt/QtDialogRun.h"
 #include "refhost/qt/QtText.h"
@@ -339,6 +341,17 @@ public:
         list->onDragStart = [this] {
             return m_run.Input(this, [this] { return Model() && CUserInput::BeginDrag(*Model()); });
         };
+        list->itemIcon = [this](int row) {
+            return row >= 0 && static_cast<std::size_t>(row) < m_kinds.size() ? VariableKindIcon(m_kinds[row])
+                                                                               : QIcon();
+        };
+        list->itemTip = [this, list](int row) {
+            if (row < 0 || static_cast<std::size_t>(row) >= m_kinds.size())
+                return QString();
+            const QString kind = ToQt(kal::framework::VariableKindText(m_kinds[row]));
+            const QString name = list->item(row)->text();
+            return kind.isEmpty() ? name : name + QStringLiteral(" \u2014 ") + kind;
+        };
         list->onDragMove = [this](const QPoint& global) { DragTo(global, false); };
         list->onDrop = [this](const QPoint& global) { DragTo(global, true); };
         list->onDragCancel = [this] {
@@ -369,6 +382,11 @@ public:
             texts << ToQt(Model()->GetItemText(i));
         list->clear();
         list->addItems(texts);
+        // Variable lists mark each variable's kind.
+        if (const auto* variables = dynamic_cast<const CGUIListCtrl*>(Model()))
+            m_kinds = kal::framework::VariableKindsOf(*variables);
+        else
+            m_kinds.clear();
         m_itemsDirty = false;
         ApplySelection();
     }
@@ -440,6 +458,7 @@ private:
     }
 
     bool m_itemsDirty = false;
+    std::vector<kal::framework::VariableKind> m_kinds;
 };
 
 // --- Tab control ------------------------------------------------------------------
@@ -449,6 +468,10 @@ public:
     TabView(DialogRun& run, CWnd& wnd, QWidget* container) : WindowView(run, wnd, new QTabWidget(container))
     {
         auto* tabs = static_cast<QTabWidget*>(m_widget);
+        // The icon of an unavailable page fits the tab's text line, so that
+        // the tabs keep their height when one becomes unavailable.
+        const int extent = tabs->fontMetrics().height() - 3;
+        tabs->setIconSize(QSize(extent, extent));
         QObject::connect(tabs, &QTabWidget::currentChanged, tabs, [this](int index) {
             m_run.Input(this, [this, index] {
                 auto* model = dynamic_cast<CTabCtrl*>(m_wnd);
@@ -479,8 +502,11 @@ protected:
             for (int i = 0; i < model->GetItemCount(); ++i) {
                 tabs->setTabText(i, ToQt(model->GetItemText(i)));
                 // The tab alone: the page widget keeps the enable state of
-                // its model page.
-                tabs->tabBar()->setTabEnabled(i, model->IsItemAvailable(i));
+                // its model page. An unavailable tab is greyed, struck
+                // through, and tells why in its tool tip.
+                const bool available = model->IsItemAvailable(i);
+                tabs->tabBar()->setTabEnabled(i, available);
+                tabs->setTabIcon(i, available ? QIcon() : UnavailableIcon());
                 tabs->setTabToolTip(i, ToQt(model->GetItemReason(i)));
             }
             Apply(WndAspect::Selection);

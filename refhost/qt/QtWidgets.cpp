@@ -4,10 +4,17 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QStyledItemDelegate>
 #include <QToolButton>
+#include <QToolTip>
+
+#include <algorithm>
 
 namespace kalhost::qt::detail {
 
@@ -19,6 +26,49 @@ void ModelDialog::reject()
         QDialog::reject();
 }
 
+namespace {
+
+// Items as wide as the list: a longer name is elided, never scrolled to.
+// The list lays its items out with the first item's size (uniform sizes,
+// for lists of many thousand variables), so every item must ask for the
+// same width. Icons come from the list, not from each item.
+class ListItemDelegate final : public QStyledItemDelegate {
+public:
+    explicit ListItemDelegate(VariableListWidget* list) : QStyledItemDelegate(list), m_list(list) {}
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QSize size = QStyledItemDelegate::sizeHint(option, index);
+        size.setWidth(std::max(1, m_list->viewport()->width()));
+        // An icon makes a row no taller than a line of text.
+        if (m_list->itemIcon)
+            size.setHeight(std::min(size.height(), m_list->fontMetrics().height()));
+        return size;
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (!m_list->itemIcon)
+            return;
+        const QIcon icon = m_list->itemIcon(index.row());
+        if (icon.isNull())
+            return;
+        // No taller than the text, so that the icons cost no rows.
+        const int extent = std::min(m_list->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, m_list),
+                                    m_list->fontMetrics().height() - 2);
+        option->icon = icon;
+        option->decorationSize = QSize(extent, extent);
+        option->features |= QStyleOptionViewItem::HasDecoration;
+    }
+
+private:
+    VariableListWidget* m_list;
+};
+
+} // namespace
+
 VariableListWidget::VariableListWidget(QWidget* parent) : QListWidget(parent)
 {
     // Qt's drag detection (a press on the selection, then a move beyond the
@@ -26,6 +76,10 @@ VariableListWidget::VariableListWidget(QWidget* parent) : QListWidget(parent)
     // of a QDrag.
     setDragEnabled(true);
     setDragDropMode(QAbstractItemView::DragOnly);
+    setItemDelegate(new ListItemDelegate(this));
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTextElideMode(Qt::ElideMiddle);
+    setResizeMode(QListView::Adjust);
 }
 
 VariableListWidget::~VariableListWidget()
@@ -45,6 +99,49 @@ void VariableListWidget::ShowDragCursor(CursorShape shape)
         QApplication::setOverrideCursor(cursor);
         m_cursorShown = true;
     }
+}
+
+bool VariableListWidget::event(QEvent* event)
+{
+    const bool handled = QListWidget::event(event);
+    // The frame itself is drawn here (the items go to the viewport): with
+    // the focus it is drawn in the highlight colour, as line edits and
+    // combo boxes show theirs, so that an empty list shows it too.
+    if (event->type() == QEvent::Paint && hasFocus()) {
+        QPainter painter(this);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    }
+    return handled;
+}
+
+bool VariableListWidget::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && itemTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        if (QListWidgetItem* item = itemAt(help->pos())) {
+            const QString tip = itemTip(row(item));
+            if (!tip.isEmpty()) {
+                QToolTip::showText(help->globalPos(), tip, viewport(), visualItemRect(item));
+                return true;
+            }
+        }
+    }
+    return QListWidget::viewportEvent(event);
+}
+
+void VariableListWidget::focusInEvent(QFocusEvent* event)
+{
+    QListWidget::focusInEvent(event);
+    update();
+}
+
+void VariableListWidget::focusOutEvent(QFocusEvent* event)
+{
+    QListWidget::focusOutEvent(event);
+    update();
 }
 
 void VariableListWidget::startDrag(Qt::DropActions)
@@ -109,6 +206,80 @@ void VariableListWidget::EndDrag()
         QApplication::restoreOverrideCursor();
         m_cursorShown = false;
     }
+}
+
+QIcon VariableKindIcon(kal::framework::VariableKind kind)
+{
+    using kal::framework::VariableKind;
+    // Drawn at twice the size for sharp pictures on high-density screens;
+    // the list scales them to its icon size.
+    const auto draw = [](VariableKind k) {
+        QPixmap pixmap(32, 32);
+        pixmap.fill(Qt::transparent);
+        QPainter p(&pixmap);
+        p.setRenderHint(QPainter::Antialiasing);
+        switch (k) {
+        case VariableKind::Numeric: {
+            // A ruler: a yellow bar with graduation marks.
+            p.setPen(QPen(QColor(0x8a, 0x6d, 0x00), 2));
+            p.setBrush(QColor(0xf5, 0xc5, 0x18));
+            p.drawRoundedRect(QRectF(2, 9, 28, 14), 2, 2);
+            for (int x = 7; x <= 25; x += 6)
+                p.drawLine(QPointF(x, 10), QPointF(x, x == 13 || x == 19 ? 18 : 15));
+            break;
+        }
+        case VariableKind::String: {
+            // "a" on a light plate.
+            p.setPen(QPen(QColor(0x5b, 0x5b, 0x5b), 2));
+            p.setBrush(QColor(0xf2, 0xf2, 0xf2));
+            p.drawRoundedRect(QRectF(2, 3, 28, 26), 4, 4);
+            QFont font = QApplication::font();
+            font.setPixelSize(22);
+            font.setBold(true);
+            p.setFont(font);
+            p.setPen(QColor(0x1f, 0x4e, 0x99));
+            p.drawText(QRectF(2, 1, 28, 26), Qt::AlignCenter, QStringLiteral("a"));
+            break;
+        }
+        case VariableKind::Categorical: {
+            // Three dots of different colours: values that are categories.
+            const QColor colours[] = {QColor(0xd6, 0x3a, 0x2f), QColor(0x2f, 0x8f, 0x3a), QColor(0x2f, 0x5f, 0xd6)};
+            const QPointF centres[] = {QPointF(9, 22), QPointF(23, 22), QPointF(16, 9)};
+            p.setPen(QPen(QColor(0x40, 0x40, 0x40), 1.5));
+            for (int i = 0; i < 3; ++i) {
+                p.setBrush(colours[i]);
+                p.drawEllipse(centres[i], 6.5, 6.5);
+            }
+            break;
+        }
+        case VariableKind::Unknown: break;
+        }
+        p.end();
+        return QIcon(pixmap);
+    };
+    static const QIcon icons[] = {draw(VariableKind::Unknown), draw(VariableKind::Numeric), draw(VariableKind::String),
+                                  draw(VariableKind::Categorical)};
+    return icons[static_cast<int>(kind)];
+}
+
+QIcon UnavailableIcon()
+{
+    static const QIcon icon = [] {
+        QPixmap pixmap(32, 32);
+        pixmap.fill(Qt::transparent);
+        QPainter p(&pixmap);
+        p.setRenderHint(QPainter::Antialiasing);
+        p.setPen(QPen(QColor(0x80, 0x80, 0x80), 4));
+        p.setBrush(Qt::NoBrush);
+        p.drawEllipse(QRectF(4, 4, 24, 24));
+        p.drawLine(QPointF(8.5, 23.5), QPointF(23.5, 8.5));
+        p.end();
+        // Shown on a disabled tab as drawn, not paled once more.
+        QIcon drawn(pixmap);
+        drawn.addPixmap(pixmap, QIcon::Disabled);
+        return drawn;
+    }();
+    return icon;
 }
 
 FileEditWidget::FileEditWidget(QWidget* parent)

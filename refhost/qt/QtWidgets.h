@@ -3,9 +3,11 @@
 // file name field with its browse button.
 #pragma once
 
+#include "framework/VariableKind.h"
 #include "platform/Cursor.h"
 
 #include <QDialog>
+#include <QIcon>
 #include <QListWidget>
 #include <QWidget>
 
@@ -33,6 +35,11 @@ public:
 // itself, and so does a move that comes without the button held (the
 // release went elsewhere). The widget keeps the implicit mouse grab of the
 // press, so the moves arrive here wherever the mouse goes.
+//
+// Every list looks alike: a name longer than the list is wide is cut in
+// the middle with an ellipsis (no sideways scrolling), the item's tool tip
+// (itemTip) tells the whole name, and a list with the keyboard focus shows
+// it even when it is empty.
 class VariableListWidget : public QListWidget {
 public:
     explicit VariableListWidget(QWidget* parent);
@@ -43,12 +50,20 @@ public:
     std::function<void(const QPoint& global)> onDrop;
     std::function<void()> onDragCancel;
     std::function<void()> onDoubleClick;
+    // The icon beside the item in `row` (null or a null icon: none) and its
+    // tool tip (null or an empty text: the list's).
+    std::function<QIcon(int row)> itemIcon;
+    std::function<QString(int row)> itemTip;
 
     bool IsDragging() const { return m_dragging; }
     // Shows the model's drag cursor while a drag is under way.
     void ShowDragCursor(CursorShape shape);
 
 protected:
+    bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void startDrag(Qt::DropActions supportedActions) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -61,6 +76,16 @@ private:
     bool m_dragging = false;
     bool m_cursorShown = false;
 };
+
+// The icon a list shows beside a variable of that kind: a ruler for
+// numeric, "a" for string, three coloured dots for categorical variables;
+// an empty square of the same size for an unknown one, so that names line
+// up.
+QIcon VariableKindIcon(kal::framework::VariableKind kind);
+
+// The icon of a tab whose page is not available: a grey circle, struck
+// through.
+QIcon UnavailableIcon();
 
 // A line edit with a "..." button beside it.
 class FileEditWidget : public QWidget {

@@ -16,8 +16,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
 using namespace kaltest;
 using namespace kaltest::anova;
 using kalqttest::Action;
@@ -185,11 +183,9 @@ TEST_F(QtAnova, DragsTabsAndGridEditsMatchHeadless)
 
 TEST_F(QtAnova, EveryPageRendersToAPicture)
 {
-    // With KAL_DOC_IMAGES naming a directory, the pictures of the
-    // documentation are written there.
+    // The pictures of the documentation are drawn by ./dev.sh screenshots.
     QTemporaryDir scratch;
-    const char* docImages = std::getenv("KAL_DOC_IMAGES");
-    const QDir directory(docImages && *docImages ? QString::fromLocal8Bit(docImages) : scratch.path());
+    const QDir directory(scratch.path());
     const char* names[] = {"anova-model", "anova-repeated-measures", "anova-options", "anova-resampling"};
 
     std::vector<QImage> images;

@@ -15,8 +15,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
 using namespace kaltest;
 using kalqttest::Action;
 using Lines16 = std::vector<std::u16string>;
@@ -180,10 +178,9 @@ TEST_F(QtControlCharts, XMrInWidgetsMatchesHeadless)
 
 TEST_F(QtControlCharts, EveryPageRendersToAPicture)
 {
-    // With KAL_DOC_IMAGES naming a directory, the pictures are written there.
+    // The pictures of the documentation are drawn by ./dev.sh screenshots.
     QTemporaryDir scratch;
-    const char* docImages = std::getenv("KAL_DOC_IMAGES");
-    const QDir directory(docImages && *docImages ? QString::fromLocal8Bit(docImages) : scratch.path());
+    const QDir directory(scratch.path());
 
     std::vector<QImage> images;
     const auto render = [&](const char* name, const std::function<INT_PTR(kalhost::qt::QtDialogDriver&)>& open) {

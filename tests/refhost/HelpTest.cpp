@@ -1,0 +1,90 @@
+// The Help button of every available dialog, headless through kalhost: it
+// names the section of docs/commands.md that documents the analysis (the
+// heading that carries its command id, anchored as GitHub renders it) and
+// where that document is, and leaves the dialog as it was.
+#include "tests/support/Process.h"
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+using kaltest::RunProcess;
+
+namespace {
+
+std::vector<std::string> AvailableRows()
+{
+    std::vector<std::string> ids;
+    std::istringstream lines(RunProcess(KALHOST_PATH, {"list"}).out);
+    for (std::string line; std::getline(lines, line);)
+        if (line.ends_with(" available") && !line.ends_with("not available"))
+            ids.push_back(line.substr(0, line.find(' ')));
+    return ids;
+}
+
+// A heading's anchor as GitHub makes it: lower case, punctuation dropped,
+// blanks turned into hyphens.
+std::string Anchor(const std::string& heading)
+{
+    std::string anchor;
+    for (const char c : heading) {
+        if (std::isalnum(static_cast<unsigned char>(c)) || c == '-' || c == '_')
+            anchor += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        else if (c == ' ')
+            anchor += '-';
+    }
+    return anchor;
+}
+
+// Command id -> the anchor of the section whose heading names it.
+std::map<std::string, std::string> SectionsByCommand()
+{
+    std::map<std::string, std::string> sections;
+    std::ifstream doc(std::string(KAL_SOURCE_DIR) + "/docs/commands.md");
+    for (std::string line; std::getline(doc, line);) {
+        if (!line.starts_with("## "))
+            continue;
+        const std::string heading = line.substr(3);
+        for (std::size_t open = heading.find('('); open != std::string::npos; open = heading.find('(', open + 1)) {
+            const std::size_t close = heading.find(')', open);
+            const std::string inside = heading.substr(open + 1, close - open - 1);
+            if (!inside.empty() && inside.find_first_not_of("0123456789") == std::string::npos)
+                sections[inside] = Anchor(heading);
+        }
+    }
+    return sections;
+}
+
+} // namespace
+
+TEST(Help, EveryAvailableDialogNamesTheSectionOfItsAnalysis)
+{
+    const auto sections = SectionsByCommand();
+    ASSERT_FALSE(sections.empty());
+    const auto rows = AvailableRows();
+    ASSERT_FALSE(rows.empty());
+    for (const std::string& id : rows) {
+        SCOPED_TRACE("command " + id);
+        ASSERT_TRUE(sections.count(id)) << "docs/commands.md has no section headed with (" << id << ")";
+        // Help, then Help again from the keyboard's page: the dialog stays
+        // open and unchanged, so OK writes what it would have written.
+        const auto plain = RunProcess(KALHOST_PATH, {"open", id, "--actions", "-"}, "ok\n");
+        const auto r = RunProcess(KALHOST_PATH, {"open", id, "--actions", "-"}, "click 9\nclick 9\nok\n");
+        EXPECT_EQ(r.status, 0) << r.err;
+        EXPECT_EQ(r.out, plain.out);
+        const std::string line = "kalhost: help for command " + id + ": commands.md#" + sections.at(id) + " (";
+        EXPECT_NE(r.err.find(line), std::string::npos) << r.err;
+        EXPECT_NE(r.err.find("/docs/commands.md)"), std::string::npos) << r.err;
+        EXPECT_EQ(r.err.find("assertion:"), std::string::npos) << r.err;
+    }
+}
+
+TEST(Help, GitHubAnchorsAreMadeAsGitHubMakesThem)
+{
+    EXPECT_EQ(Anchor("Analysis of variance: estimate model (2008)"), "analysis-of-variance-estimate-model-2008");
+    EXPECT_EQ(Anchor("Control charts: Shewhart (2041) and individuals and moving range (2043)"),
+              "control-charts-shewhart-2041-and-individuals-and-moving-range-2043");
+}
