@@ -10,8 +10,9 @@ out=fuzz/corpus/settings_store
 mkdir -p "$out"
 for script in samples/*.kal; do
     name=$(basename "$script" .kal)
-    data=()
-    [ "$name" = plants ] && data=(--data samples/plants.csv --categorical dose)
+    # A sample on a data file of its own says so in a comment line
+    # "#   kalhost OPTIONS play samples/NAME.kal".
+    read -r -a data <<< "$(sed -n 's/^#[[:space:]]*kalhost \(.*\) play .*/\1/p' "$script" | head -1)"
     rm -f "$out/$name.store"
     "$kalhost" "${data[@]}" --store "$out/$name.store" play "$script" > /dev/null
 done
