@@ -187,7 +187,12 @@ void CDDXVDlg::DDX_ListCtrlArray(CDataExchange* pDX, UINT id, CGUIArray<CGUIData
         list = std::move(shown);
         return;
     }
+    if (nTypeFilter == 0 && !bSort) {
+        control->SetVariables(list, bKeepSelection != 0); // shown as they are: no copy on the way
+        return;
+    }
     CGUIArray<CGUIDataVariable> shown;
+    shown.Reserve(static_cast<std::size_t>(list.GetSize()));
     for (const auto& v : list)
         if (nTypeFilter == 0 || static_cast<UINT>(v.GetVariableType()) == nTypeFilter)
             shown.Add(v);

@@ -61,20 +61,14 @@ void CGUIArray<CGUIDataVariable>::Serialize(CArchive& ar)
     }
     constexpr std::size_t kBlock = CGUIDataVariable::kBlockSize;
     if (ar.IsStoring()) {
-        // Blocks are staged through a small buffer that stays in the cache;
-        // every transfer stays well below the framework's limit of 89478485
-        // blocks.
-        constexpr std::size_t kBlocksPerTransfer = std::min<std::size_t>(4096, kMaxVariableBlocksPerTransfer);
+        // The archive's blocks of 64 KiB stay well below the framework's
+        // limit of 89478485 blocks a transfer.
         const auto& items = Items();
         ar.WriteCount(static_cast<ULONGLONG>(items.size()));
-        ar.ReserveForWrite(items.size() * kBlock);
-        unsigned char chunk[kBlocksPerTransfer * kBlock];
-        for (std::size_t first = 0; first < items.size(); first += kBlocksPerTransfer) {
-            const std::size_t n = std::min(kBlocksPerTransfer, items.size() - first);
+        ar.WriteBlocks(items.size(), kBlock, [&](BYTE* block, std::size_t first, std::size_t n) {
             for (std::size_t i = 0; i < n; ++i)
-                items[first + i].ToBlock(chunk + i * kBlock);
-            ar.Write(chunk, n * kBlock);
-        }
+                items[first + i].ToBlock(block + i * kBlock);
+        });
         return;
     }
     const ULONGLONG count = ar.ReadCount();
@@ -83,7 +77,7 @@ void CGUIArray<CGUIDataVariable>::Serialize(CArchive& ar)
     items.reserve(ar.ElementsJustified(count, kBlock));
     ar.ReadBlocks(count, kBlock, [&](const BYTE* data, std::size_t n) {
         for (std::size_t i = 0; i < n; ++i)
-            items.push_back(CGUIDataVariable::FromBlock(data + i * kBlock));
+            items.emplace_back(CGUIDataVariable::Block{data + i * kBlock});
     });
     *this = std::move(loaded);
 }

@@ -29,8 +29,6 @@ public:
     }
 };
 
-inline constexpr std::size_t kMaxVariableBlocksPerTransfer = 89478485;
-
 template <>
 void CGUIArray<CGUIDataVariable>::Serialize(CArchive& ar);
 template <>

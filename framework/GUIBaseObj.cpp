@@ -75,7 +75,14 @@ void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUI
 {
     if (!target || !source || target == source)
         return;
-    // A list that already matches (a dialog opened again) costs nothing.
+    // The common cases cost a copy or nothing: a list filled for the first
+    // time from a data sheet (whose names are distinct), and a list that
+    // already matches (a dialog opened again).
+    if (target->IsEmpty()) {
+        if (bAdd)
+            *target = *source;
+        return;
+    }
     if (CompareTwoListCtrlArrays(*target, *source))
         return; // the same names in the same order: the target keeps its entries
     const auto nameOf = [](const CGUIArray<CGUIDataVariable>& list) {

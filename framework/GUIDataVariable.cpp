@@ -49,6 +49,6 @@ void CGUIDataVariable::Serialize(CArchive& ar)
         ar.Write(block, kBlockSize);
     } else {
         ar.ReadExact(block, kBlockSize);
-        *this = FromBlock(block);
+        *this = CGUIDataVariable(Block{block});
     }
 }

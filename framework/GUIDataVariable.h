@@ -103,15 +103,18 @@ public:
         std::memcpy(block + 16, &zero, 4);
         std::memcpy(block + 20, &m_nSelected, 4);
     }
-    static CGUIDataVariable FromBlock(const unsigned char* block)
+    // A variable read back from its block, built where it is to stay
+    // (emplace_back(CGUIDataVariable::Block{bytes})).
+    struct Block {
+        const unsigned char* bytes;
+    };
+    explicit CGUIDataVariable(Block block)
     {
-        CGUIDataVariable variable;
         int type = 0;
-        std::memcpy(&type, block + 8, 4);
-        std::memcpy(&variable.m_nColumn, block + 12, 4);
-        std::memcpy(&variable.m_nSelected, block + 20, 4);
-        variable.m_nType = static_cast<NmsEnum::VARIABLETYPE>(type);
-        return variable;
+        std::memcpy(&type, block.bytes + 8, 4);
+        std::memcpy(&m_nColumn, block.bytes + 12, 4);
+        std::memcpy(&m_nSelected, block.bytes + 20, 4);
+        m_nType = static_cast<NmsEnum::VARIABLETYPE>(type);
     }
 
 private:

@@ -1,6 +1,5 @@
 #include "framework/GUIListCtrl.h"
 
-#include <unordered_set>
 
 IMPLEMENT_DYNAMIC(CGUIListCtrl, CListCtrl)
 
@@ -49,22 +48,14 @@ void CGUIListCtrl::RemoveVariables(const std::vector<int>& indexes)
 {
     if (indexes.empty())
         return;
-    std::unordered_set<int> drop(indexes.begin(), indexes.end());
-    CGUIArray<CGUIDataVariable> kept;
-    std::vector<int> keptSelection;
-    for (int i = 0; i < m_variables.GetSize(); ++i) {
-        if (drop.count(i))
-            continue;
-        if (IsItemSelected(i))
-            keptSelection.push_back(kept.GetSize());
-        kept.Add(m_variables[i]);
-    }
-    m_variables = std::move(kept);
-    std::vector<CString> names;
-    for (const auto& v : m_variables)
-        names.push_back(v.GetVariableName());
-    SetItems(std::move(names));
-    SetSelection(keptSelection);
+    // The variables and the items close up in place, in one pass each; the
+    // items keep their selection flags.
+    std::vector<bool> drop(static_cast<std::size_t>(m_variables.GetSize()), false);
+    for (const int i : indexes)
+        if (i >= 0 && i < m_variables.GetSize())
+            drop[static_cast<std::size_t>(i)] = true;
+    m_variables.RemoveMarked(drop);
+    DeleteItems(drop);
 }
 
 std::vector<CGUIDataVariable> CGUIListCtrl::GetSelectedVariables() const

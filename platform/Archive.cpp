@@ -109,10 +109,25 @@ std::size_t CArchive::ElementsJustified(ULONGLONG count, std::size_t elementSize
     return static_cast<std::size_t>(std::min<ULONGLONG>(count, elementSize ? left / elementSize : 0));
 }
 
-void CArchive::ReserveForWrite(std::size_t count)
+void CArchive::WriteBlocks(ULONGLONG count, std::size_t elementSize,
+                           const std::function<void(BYTE*, std::size_t, std::size_t)>& source)
 {
     CheckStoring();
-    m_file->ReserveForWrite(count);
+    if (count == 0 || elementSize == 0)
+        return;
+    const std::size_t perBlock = std::max<std::size_t>(1, kLoadBlockBytes / elementSize);
+    std::vector<BYTE> block;
+    for (ULONGLONG first = 0; first < count;) {
+        const std::size_t n = static_cast<std::size_t>(std::min<ULONGLONG>(count - first, perBlock));
+        if (BYTE* inPlace = m_file->WriteInPlace(n * elementSize)) {
+            source(inPlace, static_cast<std::size_t>(first), n);
+        } else {
+            block.resize(n * elementSize);
+            source(block.data(), static_cast<std::size_t>(first), n);
+            Write(block.data(), n * elementSize);
+        }
+        first += n;
+    }
 }
 
 void CArchive::WriteCount(ULONGLONG count)

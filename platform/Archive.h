@@ -60,12 +60,16 @@ public:
     void ReadBlocks(ULONGLONG count, std::size_t elementSize,
                     const std::function<void(const BYTE*, std::size_t)>& sink);
 
+    // Writes `count` elements of `elementSize` bytes in bounded blocks that
+    // `source` fills (pointer to the block, index of its first element,
+    // number of elements in it): in place in a memory archive, else through
+    // a buffer that stays in the cache.
+    void WriteBlocks(ULONGLONG count, std::size_t elementSize,
+                     const std::function<void(BYTE*, std::size_t, std::size_t)>& source);
+
     // How many of `count` elements of `elementSize` bytes the data left in
     // the archive could hold: a safe capacity to reserve before a load.
     std::size_t ElementsJustified(ULONGLONG count, std::size_t elementSize) const;
-
-    // Tells the file that `count` bytes follow, so that it can make room once.
-    void ReserveForWrite(std::size_t count);
 
     void WriteCount(ULONGLONG count);
     ULONGLONG ReadCount();

@@ -46,6 +46,23 @@ public:
     }
 };
 
+// Erases the elements of `items` whose mark is set (marks beyond the end
+// count as unset), closing up in place in one pass; the number erased.
+template <class Vector>
+std::size_t EraseMarked(Vector& items, const std::vector<bool>& marked)
+{
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < items.size(); ++i)
+        if (i >= marked.size() || !marked[i]) {
+            if (kept != i)
+                items[kept] = std::move(items[i]);
+            ++kept;
+        }
+    const std::size_t erased = items.size() - kept;
+    items.erase(items.begin() + static_cast<std::ptrdiff_t>(kept), items.end());
+    return erased;
+}
+
 } // namespace kal
 
 template <class T>
@@ -85,6 +102,9 @@ public:
             throw CInvalidArgException();
         m_data.erase(m_data.begin() + index, m_data.begin() + index + count);
     }
+    // Removes the elements whose mark is set (marks beyond the end count as
+    // unset), closing up in place in one pass.
+    void RemoveMarked(const std::vector<bool>& marked) { kal::EraseMarked(m_data, marked); }
     void RemoveAll() { m_data.clear(); }
     void SetSize(int size)
     {

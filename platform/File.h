@@ -36,9 +36,10 @@ public:
     virtual void Close();
     virtual ULONGLONG GetLength() const;
     virtual ULONGLONG GetPosition() const;
-    // A hint that `count` bytes are about to be written (a memory file makes
-    // room for them at once).
-    virtual void ReserveForWrite(std::size_t) {}
+    // Room for the next `count` bytes where they will stay, the position
+    // moved past them; null when the file cannot offer it (a disk file).
+    // Writers then fill a buffer of their own and Write it.
+    virtual BYTE* WriteInPlace(std::size_t) { return nullptr; }
     // The next `count` bytes where they already are, the position moved past
     // them; null when the file cannot show them so (a disk file, or fewer
     // left). Readers then copy them with Read.
@@ -67,7 +68,14 @@ public:
     ULONGLONG GetPosition() const override { return m_position; }
 
     void SeekToBegin() { m_position = 0; }
-    void ReserveForWrite(std::size_t count) override { m_data.reserve(m_position + count); }
+    BYTE* WriteInPlace(std::size_t count) override
+    {
+        if (count > m_data.size() - m_position)
+            m_data.resize(m_position + count);
+        BYTE* bytes = m_data.data() + m_position;
+        m_position += count;
+        return bytes;
+    }
     const BYTE* ReadInPlace(std::size_t count) override
     {
         if (count > m_data.size() - m_position)

@@ -1,5 +1,6 @@
 #include "platform/Wnd.h"
 
+#include "platform/Collections.h"
 #include "platform/Dialog.h"
 
 #include <algorithm>
@@ -217,6 +218,15 @@ BOOL CListCtrl::DeleteItem(int index)
     ForgetSelection();
     Changed(WndAspect::Items);
     return TRUE;
+}
+
+void CListCtrl::DeleteItems(const std::vector<bool>& marked)
+{
+    if (kal::EraseMarked(m_items, marked) == 0)
+        return;
+    m_index.Clear();
+    ForgetSelection();
+    Changed(WndAspect::Items);
 }
 
 BOOL CListCtrl::DeleteAllItems()

@@ -171,6 +171,9 @@ public:
     int InsertItem(int index, const CString& text);
     BOOL DeleteItem(int index);
     BOOL DeleteAllItems();
+    // Deletes the items whose mark is set in one pass; the others keep their
+    // order and selection. One change for views.
+    void DeleteItems(const std::vector<bool>& marked);
     CString GetItemText(int index) const;
     bool IsItemSelected(int index) const;
     void SetItemSelected(int index, bool selected);

@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <string>
+#include <unistd.h>
+
 using namespace kaltest;
 
 namespace {
@@ -77,6 +81,38 @@ TEST(VariableListArchive, PlainLayoutIsCountThenTwentyFourByteBlocks)
 
     CGUIArray<CGUIDataVariable> empty;
     EXPECT_EQ(Store([&](CArchive& ar) { empty.Serialize(ar); }), (Bytes{0x00, 0x00}));
+}
+
+TEST(VariableListArchive, ALongListIsTheSameThroughADiskFileAndAMemoryFile)
+{
+    // Several of the archive's blocks and a part of one: memory files are
+    // written and read in place, disk files through a buffer.
+    CGUIArray<CGUIDataVariable> list;
+    for (int i = 0; i < 10'000; ++i)
+        list.Add(CGUIDataVariable(u"V", i % 3 ? NmsEnum::VT_NUMERIC : NmsEnum::VT_STRING, i, {}, i % 7 == 0));
+    const Bytes inMemory = Store([&](CArchive& ar) { list.Serialize(ar); });
+    ASSERT_EQ(inMemory.size(), 2 + 10'000 * CGUIDataVariable::kBlockSize); // a 16-bit count, then the blocks
+
+    const auto path = std::filesystem::temp_directory_path() / ("kal-list-" + std::to_string(::getpid()));
+    {
+        CFile file(path, CFile::modeCreate | CFile::modeWrite);
+        CArchive ar(&file, CArchive::store);
+        list.Serialize(ar);
+        ar.Close();
+    }
+    CGUIArray<CGUIDataVariable> fromDisk;
+    {
+        CFile file(path, CFile::modeRead);
+        EXPECT_EQ(file.GetLength(), inMemory.size());
+        CArchive ar(&file, CArchive::load);
+        fromDisk.Serialize(ar);
+    }
+    std::filesystem::remove(path);
+    EXPECT_EQ(Store([&](CArchive& ar) { fromDisk.Serialize(ar); }), inMemory);
+    ASSERT_EQ(fromDisk.GetSize(), 10'000);
+    EXPECT_EQ(fromDisk[9'999].GetColumn(), 9'999);
+    EXPECT_EQ(fromDisk[7'000].IsSelected(), 1);
+    EXPECT_EQ(fromDisk[7'001].IsSelected(), 0);
 }
 
 TEST(VariableListArchive, NamedLayoutKeepsNamesAndLabels)
