@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -45,9 +46,11 @@ ProcessResult RunProcess(const std::string& program, const std::vector<std::stri
     pid_t pid = 0;
     if (posix_spawn(&pid, program.c_str(), &actions, nullptr, argv.data(), environ) == 0) {
         int status = 0;
-        while (waitpid(pid, &status, 0) < 0) {
+        rusage usage{};
+        while (wait4(pid, &status, 0, &usage) < 0) {
         }
         result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        result.peakKiB = usage.ru_maxrss;
     }
     posix_spawn_file_actions_destroy(&actions);
     result.out = Slurp(out);

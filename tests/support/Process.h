@@ -11,6 +11,7 @@ struct ProcessResult {
     int status = -1; // exit status, or -1 when the program did not exit normally
     std::string out;
     std::string err;
+    long peakKiB = 0; // the largest resident set the program reached
 };
 
 // Runs `program` with `args`, feeding `input` to its standard input.
