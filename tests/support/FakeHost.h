@@ -19,8 +19,10 @@
 
 namespace kaltest {
 
+// Names are kept as the host's strings, as a real data sheet keeps them:
+// handing one out shares it.
 struct FakeVariable {
-    std::u16string name;
+    CString name;
     NmsEnum::VARIABLETYPE type = NmsEnum::VT_NUMERIC;
     bool categorical = false;
 };
@@ -32,7 +34,7 @@ public:
 
     bool IsValid() override { return valid; }
     int GetVariableCount() override { return static_cast<int>(variables.size()); }
-    CString GetVariableName(int index, int) override { return CString(variables.at(static_cast<std::size_t>(index)).name); }
+    CString GetVariableName(int index, int) override { return variables.at(static_cast<std::size_t>(index)).name; }
     NmsEnum::VARIABLETYPE GetVariableType(int index) override { return variables.at(static_cast<std::size_t>(index)).type; }
     std::vector<int> GetCategoricalIndexes() override
     {
