@@ -75,19 +75,29 @@ void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUI
 {
     if (!target || !source || target == source)
         return;
-    // The common cases cost a copy or nothing: a list filled for the first
-    // time from a data sheet (whose names are distinct), and a list that
-    // already matches (a dialog opened again).
+    const auto nameOf = [](const CGUIArray<CGUIDataVariable>& list) {
+        return [&list](int i) -> std::u16string_view { return list[i].GetVariableName().Str(); };
+    };
+    // The common cases cost a copy and an index, or nothing: a list filled
+    // for the first time, and a list that already matches (a dialog opened
+    // again).
     if (target->IsEmpty()) {
-        if (bAdd)
-            *target = *source;
+        if (!bAdd)
+            return;
+        *target = *source;
+        CTextIndex names;
+        const int count = target->GetSize();
+        if (names.Build(count, nameOf(*target)) == count)
+            return;
+        // A source naming a variable twice lists it once.
+        std::vector<bool> repeated(static_cast<std::size_t>(count));
+        for (int i = 0; i < count; ++i)
+            repeated[static_cast<std::size_t>(i)] = names.Find((*target)[i].GetVariableName().Str(), nameOf(*target)) != i;
+        target->RemoveMarked(repeated);
         return;
     }
     if (CompareTwoListCtrlArrays(*target, *source))
         return; // the same names in the same order: the target keeps its entries
-    const auto nameOf = [](const CGUIArray<CGUIDataVariable>& list) {
-        return [&list](int i) -> std::u16string_view { return list[i].GetVariableName().Str(); };
-    };
     CTextIndex inSource;
     inSource.Build(source->GetSize(), nameOf(*source));
     // Which source entries the target keeps, so that each is added once.

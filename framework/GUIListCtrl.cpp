@@ -8,17 +8,16 @@ void CGUIListCtrl::SetVariables(const CGUIArray<CGUIDataVariable>& variables, bo
     const int previous = m_nListState;
     m_nListState = stateFilling;
     m_variables = variables;
-    std::vector<CString> names;
-    names.reserve(static_cast<std::size_t>(variables.GetSize()));
-    std::vector<int> selected;
-    for (int i = 0; i < variables.GetSize(); ++i) {
-        names.push_back(variables[i].GetVariableName());
-        if (bKeepSelection && variables[i].IsSelected())
-            selected.push_back(i);
+    SetItems(static_cast<std::size_t>(variables.GetSize()),
+             [&variables](std::size_t i) { return variables[static_cast<int>(i)].GetVariableName(); });
+    if (bKeepSelection) {
+        std::vector<int> selected;
+        for (int i = 0; i < variables.GetSize(); ++i)
+            if (variables[i].IsSelected())
+                selected.push_back(i);
+        if (!selected.empty())
+            SetSelection(selected);
     }
-    SetItems(std::move(names));
-    if (!selected.empty())
-        SetSelection(selected);
     m_nListState = previous == stateFilling ? stateIdle : previous;
 }
 

@@ -67,16 +67,10 @@ bool CHeadlessSession::Page(int index)
 bool CHeadlessSession::Select(UINT list, const std::vector<CString>& names)
 {
     auto& control = As<CListCtrl>(list, "a list");
-    // The list's own index: one pass over the list, whatever the number of
-    // names.
-    std::vector<int> indexes;
-    indexes.reserve(names.size());
-    for (const auto& name : names) {
-        const int at = control.FindItem(name.Str());
-        if (at < 0)
-            throw HeadlessError("list " + IdText(list) + " has no item \"" + name.ToUtf8() + "\"");
-        indexes.push_back(at);
-    }
+    const std::vector<int> indexes = control.FindItems(names);
+    for (std::size_t i = 0; i < names.size(); ++i)
+        if (indexes[i] < 0)
+            throw HeadlessError("list " + IdText(list) + " has no item \"" + names[i].ToUtf8() + "\"");
     return CUserInput::SelectItems(control, indexes);
 }
 

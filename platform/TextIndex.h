@@ -1,23 +1,45 @@
 // CTextIndex: where a text stands in a sequence of texts, found by hashing,
 // for the lists of a dialog that hold 100,000 names. A flat table of item
-// numbers (open addressing, linear probing) over texts the owner keeps: no
-// node per entry and no copy of any text. The first of equal texts is the
-// one found.
+// numbers with their hashes (open addressing, linear probing) over texts
+// the owner keeps: no node per entry and no copy of any text. A probe
+// reads an item's text only when the hashes agree. The first of equal
+// texts is the one found.
 //
 // The index keeps no reference to the texts: every call is given `text`, a
 // function from an item number to its text, and the owner rebuilds or
-// extends the index whenever its texts change.
+// extends the index whenever its texts change. An owner that keeps each
+// item's Hash beside it passes `hash` as well, and building the index then
+// reads no text at all.
 #pragma once
 
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
+#include <cstring>
 #include <string_view>
 #include <vector>
 
 class CTextIndex {
 public:
+    // A hash of `text`, inline: names are short and hashed by the million.
+    static std::uint32_t Hash(std::u16string_view text)
+    {
+        std::uint64_t h = 0x9E3779B97F4A7C15ull ^ text.size();
+        const char16_t* p = text.data();
+        std::size_t left = text.size();
+        for (; left >= 4; left -= 4, p += 4) {
+            std::uint64_t word;
+            std::memcpy(&word, p, sizeof word);
+            h = (h ^ word) * 0xFF51AFD7ED558CCDull;
+            h ^= h >> 32;
+        }
+        for (; left > 0; --left, ++p)
+            h = (h ^ *p) * 0xC4CEB9FE1A85EC53ull;
+        h ^= h >> 29;
+        h *= 0xFF51AFD7ED558CCDull;
+        return static_cast<std::uint32_t>(h ^ (h >> 32));
+    }
+
     void Clear()
     {
         m_slots.clear();
@@ -25,55 +47,86 @@ public:
     }
     bool IsBuilt() const { return !m_slots.empty(); }
 
-    // Indexes items 0..count-1.
-    template <class TextOf>
-    void Build(int count, const TextOf& text)
+    // Indexes items 0..count-1 and answers how many distinct texts they
+    // hold.
+    template <class TextOf, class HashOf>
+    int Build(int count, const TextOf& text, const HashOf& hash)
     {
         // At most half full, so that probes stay short.
-        m_slots.assign(std::bit_ceil(static_cast<std::size_t>(count > 0 ? count : 0) * 2 + 2), 0);
+        m_slots.assign(std::bit_ceil(static_cast<std::size_t>(count > 0 ? count : 0) * 2 + 2), Slot{});
         m_count = 0;
         for (int i = 0; i < count; ++i)
-            Insert(i, text);
+            Insert(i, hash(i), text);
+        return m_count;
+    }
+    template <class TextOf>
+    int Build(int count, const TextOf& text)
+    {
+        return Build(count, text, [&text](int i) { return Hash(text(i)); });
     }
     // Adds item `item` (the next one after those indexed); false when the
     // table would grow too full, in which case the caller rebuilds.
     template <class TextOf>
-    bool Add(int item, const TextOf& text)
+    bool Add(int item, std::uint32_t hash, const TextOf& text)
     {
         if (!IsBuilt() || static_cast<std::size_t>(m_count + 1) * 2 > m_slots.size())
             return false;
-        Insert(item, text);
+        Insert(item, hash, text);
         return true;
     }
     // The first item whose text is `wanted`, or -1.
     template <class TextOf>
+    int Find(std::u16string_view wanted, std::uint32_t hash, const TextOf& text) const
+    {
+        return IsBuilt() ? m_slots[Probe(wanted, hash, text)].item - 1 : -1;
+    }
+    template <class TextOf>
     int Find(std::u16string_view wanted, const TextOf& text) const
     {
-        return IsBuilt() ? m_slots[Probe(wanted, text)] - 1 : -1;
+        return Find(wanted, Hash(wanted), text);
+    }
+    // The first item with hash `hash` that `same` accepts, or -1: for a
+    // caller whose wanted text is costly to reach.
+    template <class Same>
+    int FindIf(std::uint32_t hash, const Same& same) const
+    {
+        return IsBuilt() ? m_slots[Probe(hash, same)].item - 1 : -1;
     }
 
 private:
-    // The slot holding `wanted`, or the empty slot where it would go.
-    template <class TextOf>
-    std::size_t Probe(std::u16string_view wanted, const TextOf& text) const
+    struct Slot {
+        std::int32_t item = 0; // item + 1; 0 is an empty slot
+        std::uint32_t hash = 0;
+    };
+
+    // The slot holding a text equal to the one `same` recognises, or the
+    // empty slot where it would go; texts are compared only where the
+    // hashes agree.
+    template <class Same>
+    std::size_t Probe(std::uint32_t hash, const Same& same) const
     {
         const std::size_t mask = m_slots.size() - 1;
-        for (std::size_t slot = std::hash<std::u16string_view>{}(wanted) & mask;; slot = (slot + 1) & mask) {
-            const std::int32_t entry = m_slots[slot];
-            if (entry == 0 || text(entry - 1) == wanted)
+        for (std::size_t slot = hash & mask;; slot = (slot + 1) & mask) {
+            const Slot& entry = m_slots[slot];
+            if (entry.item == 0 || (entry.hash == hash && same(entry.item - 1)))
                 return slot;
         }
     }
     template <class TextOf>
-    void Insert(int item, const TextOf& text)
+    std::size_t Probe(std::u16string_view wanted, std::uint32_t hash, const TextOf& text) const
     {
-        const std::size_t slot = Probe(text(item), text);
-        if (m_slots[slot] == 0) {
-            m_slots[slot] = item + 1;
+        return Probe(hash, [&](int other) { return text(other) == wanted; });
+    }
+    template <class TextOf>
+    void Insert(int item, std::uint32_t hash, const TextOf& text)
+    {
+        Slot& slot = m_slots[Probe(hash, [&](int other) { return text(other) == text(item); })];
+        if (slot.item == 0) {
+            slot = Slot{item + 1, hash};
             ++m_count;
         }
     }
 
-    std::vector<std::int32_t> m_slots; // item + 1; 0 is an empty slot
+    std::vector<Slot> m_slots;
     int m_count = 0;
 };

@@ -198,10 +198,10 @@ int CListCtrl::InsertItem(int index, const CString& text)
 {
     index = std::clamp(index, 0, GetItemCount());
     const bool appended = index == GetItemCount();
-    m_items.insert(m_items.begin() + index, Item{text, false});
+    m_items.insert(m_items.begin() + index, Item(text));
     // An item appended extends the index; one inserted renumbers the rest.
-    const auto textOf = [this](int i) -> std::u16string_view { return m_items[static_cast<std::size_t>(i)].text; };
-    if (!appended || !m_index.Add(index, textOf))
+    const auto textOf = [this](int i) { return TextOf(i); };
+    if (!appended || !m_index.Add(index, HashOf(index), textOf))
         m_index.Clear();
     if (!appended)
         ForgetSelection();
@@ -241,10 +241,39 @@ BOOL CListCtrl::DeleteAllItems()
 
 int CListCtrl::FindItem(std::u16string_view text) const
 {
-    const auto textOf = [this](int i) -> std::u16string_view { return m_items[static_cast<std::size_t>(i)].text; };
+    const auto textOf = [this](int i) { return TextOf(i); };
     if (!m_index.IsBuilt())
-        m_index.Build(GetItemCount(), textOf);
+        m_index.Build(GetItemCount(), textOf, [this](int i) { return HashOf(i); });
     return m_index.Find(text, textOf);
+}
+
+std::vector<int> CListCtrl::FindItems(const std::vector<CString>& texts) const
+{
+    std::vector<int> found(texts.size(), -1);
+    if (m_index.IsBuilt() || texts.size() * 4 > m_items.size()) {
+        for (std::size_t i = 0; i < texts.size(); ++i)
+            found[i] = FindItem(texts[i].Str());
+        return found;
+    }
+    const auto wantedText = [&texts](int i) -> std::u16string_view { return texts[static_cast<std::size_t>(i)].Str(); };
+    CTextIndex wanted;
+    wanted.Build(static_cast<int>(texts.size()), wantedText);
+    std::size_t left = texts.size();
+    const Item* items = m_items.data();
+    const std::size_t count = m_items.size();
+    for (std::size_t item = 0; item < count && left > 0; ++item) {
+        // Compared by hash first: most items' texts are never read.
+        const Item& shown = items[item];
+        const int w = wanted.FindIf(shown.hash, [&](int i) { return wantedText(i) == shown.text.Str(); });
+        if (w >= 0 && found[static_cast<std::size_t>(w)] < 0) {
+            found[static_cast<std::size_t>(w)] = static_cast<int>(item);
+            --left;
+        }
+    }
+    // A text asked for twice gets the answer of its first asking.
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        found[i] = found[static_cast<std::size_t>(wanted.Find(texts[i].Str(), wantedText))];
+    return found;
 }
 
 CString CListCtrl::GetItemText(int index) const
@@ -306,10 +335,11 @@ int CListCtrl::GetSelectedCount() const
 
 void CListCtrl::SetItems(std::vector<CString> texts)
 {
-    m_items.clear();
-    m_items.reserve(texts.size());
-    for (auto& text : texts)
-        m_items.push_back(Item{std::move(text), false});
+    SetItems(texts.size(), [&texts](std::size_t i) { return std::move(texts[i]); });
+}
+
+void CListCtrl::ItemsReplaced()
+{
     m_index.Clear();
     m_selection.clear();
     m_selectionKnown = true;

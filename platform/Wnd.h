@@ -14,7 +14,10 @@
 #include "platform/DialogTemplate.h"
 #include "platform/TextIndex.h"
 
+#include <cstdint>
 #include <memory>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 class CWnd;
@@ -182,20 +185,43 @@ public:
     int GetSelectedCount() const;
     // Replaces every item at once, selection cleared; one change for views.
     void SetItems(std::vector<CString> texts);
+    // The same with the items' texts handed over one by one: text(i) for i
+    // below count, without a list of them on the way.
+    template <class TextOf>
+    void SetItems(std::size_t count, const TextOf& text)
+    {
+        m_items.clear();
+        m_items.reserve(count);
+        for (std::size_t i = 0; i < count; ++i)
+            m_items.emplace_back(text(i));
+        ItemsReplaced();
+    }
     // The first item showing `text`, or -1. The index behind it is built
     // when first asked after a change and follows items appended since.
     int FindItem(std::u16string_view text) const;
+    // FindItem for several texts at once (-1 for each not shown). Without
+    // the list's index, the texts are indexed instead and the list is read
+    // once: picking 1,000 of 1,000,000 items builds no index of a million.
+    std::vector<int> FindItems(const std::vector<CString>& texts) const;
 
 private:
+    // Each item keeps its text's hash: finding names in a long list then
+    // reads a text only where a hash agrees.
     struct Item {
         CString text;
+        std::uint32_t hash = 0;
         bool selected = false;
+
+        explicit Item(CString t) : text(std::move(t)), hash(CTextIndex::Hash(text.Str())) {}
     };
+    std::u16string_view TextOf(int i) const { return m_items[static_cast<std::size_t>(i)].text.Str(); }
+    std::uint32_t HashOf(int i) const { return m_items[static_cast<std::size_t>(i)].hash; }
     std::vector<Item> m_items;
 
     // The selected items in order, kept beside the items' flags so that a
     // list of 100,000 entries answers "what is selected" by its selection.
     void ForgetSelection() { m_selectionKnown = false; }
+    void ItemsReplaced();
     const std::vector<int>& Selection() const;
 
     mutable CTextIndex m_index;

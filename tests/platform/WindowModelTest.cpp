@@ -175,6 +175,40 @@ TEST_F(WindowModel, MissingTemplatesAndControlsAreReportedNotFatal)
     EXPECT_EQ(reports.size(), 2u);
 }
 
+TEST(ListControl, FindsItemsAndKeepsItsSelectionThroughInsertsAndDeletes)
+{
+    CListCtrl list;
+    std::vector<CString> texts;
+    for (int i = 0; i < 100; ++i)
+        texts.push_back(CString(u"V") + CString::FromNumber(i));
+    texts.push_back(u"V7"); // shown twice: the first one is found
+    list.SetItems(texts);
+
+    // Few texts: the list is read once against their index; many: the
+    // list's own index. Both answer alike, a text asked twice included.
+    const std::vector<CString> few{u"V42", u"V7", u"nope", u"V42"};
+    EXPECT_EQ(list.FindItems(few), (std::vector<int>{42, 7, -1, 42}));
+    EXPECT_EQ(list.FindItem(u"V7"), 7);
+    EXPECT_EQ(list.FindItems(few), (std::vector<int>{42, 7, -1, 42}));
+    EXPECT_EQ(list.FindItems(texts)[100], 7);
+
+    list.SetSelection({3, 50, 3});
+    EXPECT_EQ(list.GetSelectedItems(), (std::vector<int>{3, 50}));
+    list.InsertItem(0, u"first"); // the items after it move up one
+    EXPECT_EQ(list.GetSelectedItems(), (std::vector<int>{4, 51}));
+    EXPECT_EQ(list.FindItem(u"V42"), 43);
+    list.InsertItem(list.GetItemCount(), u"last");
+    EXPECT_EQ(list.FindItem(u"last"), 102);
+    std::vector<bool> marked(5, false);
+    marked[0] = marked[4] = true; // "first" and the selected V3
+    list.DeleteItems(marked);
+    EXPECT_EQ(list.GetSelectedItems(), (std::vector<int>{49}));
+    EXPECT_EQ(list.GetItemText(49), CString(u"V50"));
+    EXPECT_EQ(list.FindItem(u"V3"), -1);
+    list.SetItemSelected(0, true);
+    EXPECT_EQ(list.GetSelectedCount(), 2);
+}
+
 TEST(CommandRouting, MessageMapsWalkFromTheClassToItsBases)
 {
     TestDialog dialog;
