@@ -6,22 +6,36 @@ IMPLEMENT_SERIAL(CGUIDataVariable, CObject, 1)
 
 static_assert(sizeof(CGUIDataVariable) <= 32, "a variable list of a million entries stays within 32 MB");
 
-void CGUIDataVariable::Texts::Free(Texts* texts) noexcept
+static_assert(sizeof(CString) == sizeof(std::uintptr_t), "a variable's texts take one word");
+
+void CGUIDataVariable::Texts::Set(const CString& name, const CString& label)
 {
-    delete texts;
+    Texts replacement;
+    if (!label.IsEmpty()) {
+        auto* record = new Record{1, name, label};
+        replacement.AsName().~CString();
+        const auto word = reinterpret_cast<std::uintptr_t>(record) + 1;
+        std::memcpy(replacement.m_word, &word, sizeof word);
+    } else if (!name.IsEmpty()) {
+        *std::launder(reinterpret_cast<CString*>(replacement.m_word)) = name;
+    }
+    Swap(replacement);
 }
 
-const CString& CGUIDataVariable::Empty()
+void CGUIDataVariable::Texts::Drop() noexcept
+{
+    if (Record* record = Shared()) {
+        if (--record->refs == 0)
+            delete record;
+    } else {
+        AsName().~CString();
+    }
+}
+
+const CString& CGUIDataVariable::Texts::Empty()
 {
     static const CString empty;
     return empty;
-}
-
-void CGUIDataVariable::SetTexts(const CString& name, const CString& label)
-{
-    Texts* replacement = Texts::Make(name, label);
-    Texts::Release(m_texts);
-    m_texts = replacement;
 }
 
 void CGUIDataVariable::GetDataVariableList(CGUIArray<CGUIDataVariable>& list) const
@@ -39,7 +53,7 @@ void CGUIDataVariable::Serialize(CArchive& ar)
             int type = 0;
             ar >> name >> type >> m_nColumn >> label >> m_nSelected;
             m_nType = static_cast<NmsEnum::VARIABLETYPE>(type);
-            SetTexts(name, label);
+            m_texts.Set(name, label);
         }
         return;
     }

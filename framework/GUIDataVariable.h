@@ -2,16 +2,22 @@
 // variable list.
 //
 // Lists of 100,000 variables are copied between settings, dialogs and list
-// controls, so a variable is small (32 bytes) and cheap to copy: its name
-// and its label sit in one shared, counted record, and a copy only counts.
-// The count is not atomic: lists live on the user-interface thread.
+// controls, so a variable is small (32 bytes) and cheap to copy. Its name
+// and label take one word: most variables have no label, and the word is
+// then the name itself, a CString sharing the sheet's buffer; a labelled
+// variable points instead to a counted record of both. Either way a copy
+// only counts. The counts are not atomic: lists live on the user-interface
+// thread.
 #pragma once
 
 #include "host/IData.h"
 #include "platform/CString.h"
 #include "platform/Object.h"
 
+#include <cstdint>
 #include <cstring>
+#include <new>
+#include <utility>
 
 template <class T>
 class CGUIArray;
@@ -24,45 +30,15 @@ public:
     // selection flag of the entry in its list.
     CGUIDataVariable(const CString& name, NmsEnum::VARIABLETYPE type, int column = 0, const CString& label = {},
                      int selected = 0)
-        : m_texts(Texts::Make(name, label)), m_nType(type), m_nColumn(column), m_nSelected(selected)
+        : m_nType(type), m_nColumn(column), m_nSelected(selected)
     {
+        m_texts.Set(name, label);
     }
-    CGUIDataVariable(const CGUIDataVariable& other) : CObject(), m_texts(other.m_texts), m_nType(other.m_nType),
-        m_nColumn(other.m_nColumn), m_nSelected(other.m_nSelected)
-    {
-        if (m_texts)
-            ++m_texts->refs;
-    }
-    CGUIDataVariable(CGUIDataVariable&& other) noexcept : CObject(), m_texts(other.m_texts), m_nType(other.m_nType),
-        m_nColumn(other.m_nColumn), m_nSelected(other.m_nSelected)
-    {
-        other.m_texts = nullptr;
-    }
-    CGUIDataVariable& operator=(const CGUIDataVariable& other)
-    {
-        Texts* shared = other.m_texts; // counted first: `other` may be this one
-        if (shared)
-            ++shared->refs;
-        Texts::Release(m_texts);
-        m_texts = shared;
-        m_nType = other.m_nType;
-        m_nColumn = other.m_nColumn;
-        m_nSelected = other.m_nSelected;
-        return *this;
-    }
-    CGUIDataVariable& operator=(CGUIDataVariable&& other) noexcept
-    {
-        if (this != &other) {
-            Texts::Release(m_texts);
-            m_texts = other.m_texts;
-            other.m_texts = nullptr;
-            m_nType = other.m_nType;
-            m_nColumn = other.m_nColumn;
-            m_nSelected = other.m_nSelected;
-        }
-        return *this;
-    }
-    ~CGUIDataVariable() override { Texts::Release(m_texts); }
+    CGUIDataVariable(const CGUIDataVariable&) = default;
+    CGUIDataVariable(CGUIDataVariable&&) noexcept = default;
+    CGUIDataVariable& operator=(const CGUIDataVariable&) = default;
+    CGUIDataVariable& operator=(CGUIDataVariable&&) noexcept = default;
+    ~CGUIDataVariable() override = default;
 
     // Two entries are the same variable when name and type agree; where an
     // entry sits or whether it is selected does not matter.
@@ -72,12 +48,12 @@ public:
     }
 
     void GetVariableName(CString& name) const { name = GetVariableName(); }
-    const CString& GetVariableName() const { return m_texts ? m_texts->name : Empty(); }
-    void SetVariableName(const CString& name) { SetTexts(name, GetLabel()); }
+    const CString& GetVariableName() const { return m_texts.Name(); }
+    void SetVariableName(const CString& name) { m_texts.Set(name, GetLabel()); }
     NmsEnum::VARIABLETYPE GetVariableType() const { return m_nType; }
     void SetVariableType(NmsEnum::VARIABLETYPE type) { m_nType = type; }
     int GetColumn() const { return m_nColumn; }
-    const CString& GetLabel() const { return m_texts ? m_texts->label : Empty(); }
+    const CString& GetLabel() const { return m_texts.Label(); }
     int IsSelected() const { return m_nSelected; }
     void SetSelected(int selected) { m_nSelected = selected; }
 
@@ -118,29 +94,74 @@ public:
     }
 
 private:
-    // The name and the label, shared by the copies of a variable.
-    struct Texts {
-        long refs;
-        CString name;
-        CString label;
+    // The name and the label in one word (see the top of this file): a
+    // CString, or a pointer with its lowest bit set to a counted record.
+    class Texts {
+    public:
+        Texts() { new (m_word) CString(); }
+        Texts(const Texts& other)
+        {
+            if (Record* record = other.Shared()) {
+                ++record->refs;
+                std::memcpy(m_word, other.m_word, sizeof m_word);
+            } else {
+                new (m_word) CString(other.Name());
+            }
+        }
+        Texts(Texts&& other) noexcept
+        {
+            std::memcpy(m_word, other.m_word, sizeof m_word);
+            new (other.m_word) CString(); // `other` gave its word away
+        }
+        Texts& operator=(const Texts& other)
+        {
+            if (this != &other) {
+                Texts copy(other);
+                Swap(copy);
+            }
+            return *this;
+        }
+        Texts& operator=(Texts&& other) noexcept
+        {
+            Texts taken(std::move(other));
+            Swap(taken);
+            return *this;
+        }
+        ~Texts() { Drop(); }
 
-        static Texts* Make(const CString& name, const CString& label)
+        const CString& Name() const { return Shared() ? Shared()->name : AsName(); }
+        const CString& Label() const { return Shared() ? Shared()->label : Empty(); }
+        void Set(const CString& name, const CString& label);
+
+    private:
+        struct Record {
+            long refs;
+            CString name;
+            CString label;
+        };
+        Record* Shared() const
         {
-            return name.IsEmpty() && label.IsEmpty() ? nullptr : new Texts{1, name, label};
+            std::uintptr_t word;
+            std::memcpy(&word, m_word, sizeof word);
+            return word & 1 ? reinterpret_cast<Record*>(word - 1) : nullptr;
         }
-        static void Release(Texts* texts) noexcept
+        const CString& AsName() const { return *std::launder(reinterpret_cast<const CString*>(m_word)); }
+        void Swap(Texts& other) noexcept
         {
-            if (texts && --texts->refs == 0)
-                Free(texts);
+            unsigned char mine[sizeof m_word];
+            std::memcpy(mine, m_word, sizeof mine);
+            std::memcpy(m_word, other.m_word, sizeof m_word);
+            std::memcpy(other.m_word, mine, sizeof mine);
         }
-        // Out of line: the last copy frees the record.
-        static void Free(Texts* texts) noexcept;
+        void Drop() noexcept;
+        static const CString& Empty();
+
+        // CString is one pointer to an aligned buffer, or null: its lowest
+        // bit is always clear (checked where CString is defined).
+        alignas(CString) unsigned char m_word[sizeof(CString)];
     };
 
-    static const CString& Empty();
-    void SetTexts(const CString& name, const CString& label);
-
-    Texts* m_texts = nullptr;
+    Texts m_texts;
     NmsEnum::VARIABLETYPE m_nType = NmsEnum::VT_UNKNOWN;
     int m_nColumn = 0;
     int m_nSelected = 0;

@@ -135,6 +135,9 @@ private:
         long refs;
         std::u16string text;
     };
+    // A CString is this one pointer, null or aligned: its lowest bit is free
+    // for a container that keeps a string or something else in one word.
+    static_assert(alignof(Rep) >= 2);
 
     static const std::u16string& EmptyText();
     // The text to change: this string's own buffer, copied first when shared.

@@ -103,3 +103,42 @@ TEST(SourceVariables, ComeFromTheHostsDataSheetFilteredByType)
     CBaseGui::GetSourceVariable(&all, NmsEnum::ADD_ALL_VARIABLES, 0);
     EXPECT_EQ(all.GetSize(), 0);
 }
+
+TEST(DataVariable, NameAndLabelSurviveCopiesMovesAndRenamesInBothForms)
+{
+    // A variable without a label keeps its name in place; one with a label
+    // keeps both in a shared record. Mixing the two through every copy and
+    // move must never lose or mix up a text (the sanitizer build checks
+    // that nothing is freed twice or leaked).
+    CGUIDataVariable plain(u"height", NmsEnum::VT_NUMERIC, 1);
+    CGUIDataVariable labelled(u"w", NmsEnum::VT_NUMERIC, 2, u"weight in kg");
+    CGUIDataVariable copy = labelled;
+    copy.SetVariableName(u"w2"); // the original's record is not changed
+    EXPECT_EQ(labelled.GetVariableName(), CString(u"w"));
+    EXPECT_EQ(copy.GetVariableName(), CString(u"w2"));
+    EXPECT_EQ(copy.GetLabel(), CString(u"weight in kg"));
+
+    copy = plain; // labelled form replaced by the plain one
+    EXPECT_EQ(copy.GetVariableName(), CString(u"height"));
+    EXPECT_TRUE(copy.GetLabel().IsEmpty());
+    copy = copy;
+    plain = std::move(labelled); // and the other way round, by a move
+    EXPECT_EQ(plain.GetVariableName(), CString(u"w"));
+    EXPECT_EQ(plain.GetLabel(), CString(u"weight in kg"));
+    EXPECT_TRUE(labelled.GetVariableName().IsEmpty());
+    labelled = plain;
+    plain = std::move(plain);
+    EXPECT_EQ(labelled.GetLabel(), plain.GetLabel());
+
+    CGUIArray<CGUIDataVariable> list;
+    for (int i = 0; i < 100; ++i)
+        list.Add(i % 3 ? CGUIDataVariable(CString::FromNumber(i), NmsEnum::VT_NUMERIC)
+                       : CGUIDataVariable(CString::FromNumber(i), NmsEnum::VT_NUMERIC, 0, u"third"));
+    CGUIArray<CGUIDataVariable> moved = std::move(list);
+    CGUIArray<CGUIDataVariable> copied = moved;
+    moved.RemoveAll();
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_EQ(copied[i].GetVariableName(), CString::FromNumber(i));
+        EXPECT_EQ(copied[i].GetLabel().IsEmpty(), i % 3 != 0);
+    }
+}
