@@ -3,7 +3,8 @@
 #   ./dev.sh run        install what is missing, build kalhost, run an ANOVA session on the sample data
 #   ./dev.sh test       install what is missing, build both presets, run every test
 #   ./dev.sh fuzz [S]   build the libFuzzer targets with clang, run each S seconds (60)
-#   ./dev.sh bench      build and run the benchmarks
+#   ./dev.sh bench [A]  build and run the benchmarks (A: Google Benchmark options), print every goal
+#   ./dev.sh lint       check the formatting (clang-format) and the code (clang-tidy) of every source
 #   ./dev.sh package    build the Debian package (build/package/*.deb)
 #   ./dev.sh screenshots  draw every page of every available dialog (docs/images, docs/gallery.md)
 #   ./dev.sh deps       only install the build dependencies
@@ -17,6 +18,7 @@ PACKAGES=(
     libgtest-dev libgmock-dev libbenchmark-dev
     nlohmann-json3-dev libcli11-dev libcsv-dev
     qt6-base-dev fonts-dejavu-core fonts-noto-cjk pkgconf
+    clang-format clang-tidy
 )
 
 deps() {
@@ -45,7 +47,7 @@ build() {
 }
 
 usage() {
-    sed -n '2,9p' "$0"
+    sed -n '2,10p' "$0"
 }
 
 # The GitHub anchor of a heading: lower case, punctuation dropped, blanks
@@ -176,9 +178,36 @@ fuzz)
     done
     ;;
 bench)
+    # Every benchmark five times (further arguments go to each program),
+    # then the goals of all of them in one table.
+    shift
     deps
     build default
-    for b in build/default/bin/bench_*; do "$b"; done
+    log=$(mktemp)
+    trap 'rm -f "$log"' EXIT
+    for b in build/default/bin/bench_*; do
+        echo "== $(basename "$b")"
+        "$b" --benchmark_repetitions=5 "$@" | tee -a "$log"
+    done
+    echo
+    echo "== every goal (min and median of five runs)"
+    awk '/^measurement +against/ { if (!shown++) print; table = 1; next }
+         NF == 0 { table = 0 }
+         table { print }' "$log"
+    ;;
+lint)
+    deps
+    git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
+    echo "clang-format: every source is formatted"
+    # clang-tidy reads the compile commands of the default build; the
+    # library and host sources are checked, with the headers they include.
+    cmake --preset default >/dev/null
+    sources=$(git ls-files 'Msg/*.cpp' 'Source/*.cpp' 'framework/*.cpp' 'platform/*.cpp' 'private/*.cpp' 'refhost/*.cpp' |
+        sed 's|\.|\\.|g; s|^|/|; s|$|$|')
+    # shellcheck disable=SC2086 # one pattern per source
+    run-clang-tidy -quiet -j "$(nproc)" -p build/default $sources >build/clang-tidy.log 2>&1 ||
+        { grep -E 'error:|warning:' build/clang-tidy.log; echo "clang-tidy: see build/clang-tidy.log"; exit 1; }
+    echo "clang-tidy: no findings"
     ;;
 package)
     deps

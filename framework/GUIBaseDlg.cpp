@@ -354,6 +354,7 @@ BOOL CGUIBaseDlg::MoveSourceToTarget(CGUIListCtrl* from, CGUIListCtrl* to, int d
     from->RemoveVariables(from->GetSelectedItems());
     to->AddVariables(leaving, true);
     std::vector<int> select;
+    select.reserve(leaving.size());
     for (const auto& v : leaving)
         select.push_back(to->FindVariable(v.GetVariableName()));
     to->SetSelection((nFlags & 1) ? select : std::vector<int>{});

@@ -31,6 +31,7 @@ class CGUIBaseObj : public CObject {
 public:
     CGUIBaseObj() = default;
     CGUIBaseObj(const CGUIBaseObj&) : CGUIBaseObj() {}
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): nothing to assign
     CGUIBaseObj& operator=(const CGUIBaseObj&) { return *this; }
     ~CGUIBaseObj() override = default;
 

@@ -143,7 +143,7 @@ private:
         {
             std::uintptr_t word;
             std::memcpy(&word, m_word, sizeof word);
-            return word & 1 ? reinterpret_cast<Record*>(word - 1) : nullptr;
+            return word & 1 ? reinterpret_cast<Record*>(word - 1) : nullptr; // NOLINT(performance-no-int-to-ptr)
         }
         const CString& AsName() const { return *std::launder(reinterpret_cast<const CString*>(m_word)); }
         void Swap(Texts& other) noexcept

@@ -29,6 +29,7 @@ public:
             ++m_rep->refs;
     }
     CString(CString&& other) noexcept : m_rep(other.m_rep) { other.m_rep = nullptr; }
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): counts first
     CString& operator=(const CString& other) noexcept
     {
         Rep* shared = other.m_rep; // counted first: `other` may be this string

@@ -178,6 +178,7 @@ std::vector<CString> CHeadlessSession::Items(UINT list) const
 {
     const auto& control = As<CListCtrl>(list, "a list");
     std::vector<CString> items;
+    items.reserve(static_cast<std::size_t>(control.GetItemCount()));
     for (int i = 0; i < control.GetItemCount(); ++i)
         items.push_back(control.GetItemText(i));
     return items;

@@ -77,7 +77,10 @@ public:                                                   \
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name) \
     IMPLEMENT_RUNTIMECLASS_(class_name, base_class_name, 0xFFFF, nullptr)
 
+// A class name cannot be parenthesised after `new`.
+// NOLINTBEGIN(bugprone-macro-parentheses)
 #define IMPLEMENT_SERIAL(class_name, base_class_name, schema)                               \
     CObject* class_name::CreateObject() { return new class_name; }                          \
     IMPLEMENT_RUNTIMECLASS_(class_name, base_class_name, schema, class_name::CreateObject) \
     static const CClassRegistration registration##class_name(RUNTIME_CLASS(class_name));
+// NOLINTEND(bugprone-macro-parentheses)

@@ -216,7 +216,7 @@ std::unique_ptr<CGUIBaseObj> LoadEntry(const StoreEntry& entry)
     } catch (const CException& e) {
         throw StoreError(EntryName(entry) + ": its lines cannot be written: " + e.what());
     }
-    object.release();
+    object.release(); // NOLINT(bugprone-unused-return-value): owned by the result below
     return std::unique_ptr<CGUIBaseObj>(settings);
 }
 
@@ -300,14 +300,14 @@ std::filesystem::path KeepAside(const std::filesystem::path& file)
 {
     // The store itself goes aside; a link to it stays for the next save.
     const std::filesystem::path target = SaveTarget(file);
-    const std::filesystem::path aside = AsideName(target);
+    std::filesystem::path aside = AsideName(target);
     std::filesystem::rename(target, aside);
     return aside;
 }
 
 std::filesystem::path KeepAside(const std::filesystem::path& file, const std::vector<StoreEntry>& entries)
 {
-    const std::filesystem::path aside = AsideName(file);
+    std::filesystem::path aside = AsideName(file);
     WriteStoreFile(aside, entries);
     return aside;
 }

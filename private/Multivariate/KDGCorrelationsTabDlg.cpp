@@ -33,7 +33,9 @@ void CCorrelationsTabDlg::SetDlgCaptionID(UINT captionId)
 
 void CCorrelationsTabDlg::SetCaptionIDs(const std::array<UINT, 4>& captionIds)
 {
-    CGUIBaseDlg::SetCaptionIDs(captionIds);
+    // Not the tab's rule (caption n names page n): this row's second
+    // caption names the resampling page.
+    CGUIBaseDlg::SetCaptionIDs(captionIds); // NOLINT(bugprone-parent-virtual-call)
     if (captionIds[1] != 0)
         m_BootStrapDlg.SetDlgCaptionID(captionIds[1]);
 }
