@@ -2,14 +2,14 @@
 
 #include <csv.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cerrno>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <fstream>
-#include <map>
-#include <unordered_map>
 #include <sstream>
 
 namespace kalhost {
@@ -127,8 +127,54 @@ int IsBlankOnly(unsigned char c)
     return c == ' ';
 }
 
+// The header's names, for telling a repeated one: an open-addressing table
+// of column numbers hashed by name, one block of memory instead of a node
+// per name.
+class NameIndex {
+public:
+    // The column that already holds `name`, or `column` after recording it.
+    std::size_t Insert(const std::vector<Variable>& variables, std::size_t column)
+    {
+        if (2 * (m_count + 1) > m_slots.size())
+            Grow(variables);
+        const CString& name = variables[column].name;
+        for (std::size_t slot = Hash(name);; slot = (slot + 1) & (m_slots.size() - 1)) {
+            if (m_slots[slot] == 0) {
+                m_slots[slot] = static_cast<std::uint32_t>(column + 1);
+                ++m_count;
+                return column;
+            }
+            if (variables[m_slots[slot] - 1].name == name)
+                return m_slots[slot] - 1;
+        }
+    }
+
+    void Clear() { std::vector<std::uint32_t>().swap(m_slots); }
+
+private:
+    std::size_t Hash(const CString& name) const { return std::hash<CString>{}(name) & (m_slots.size() - 1); }
+
+    void Grow(const std::vector<Variable>& variables)
+    {
+        std::vector<std::uint32_t> old(std::max<std::size_t>(64, 2 * m_slots.size()));
+        old.swap(m_slots);
+        for (const std::uint32_t entry : old) {
+            if (entry == 0)
+                continue;
+            std::size_t slot = Hash(variables[entry - 1].name);
+            while (m_slots[slot] != 0)
+                slot = (slot + 1) & (m_slots.size() - 1);
+            m_slots[slot] = entry;
+        }
+    }
+
+    std::vector<std::uint32_t> m_slots; // column + 1; 0 is free
+    std::size_t m_count = 0;
+};
+
 // Reads a CSV sheet in large blocks, a physical line at a time, so that
-// every record knows the line it started on. Lines without a quote are
+// every record knows the line it started on. (Blocks rather than a mapping
+// of the whole file: mapped pages would count as the host's memory.) Lines without a quote are
 // split directly; a line with one, and the lines of a quoted value it
 // opens, go through libcsv. The header becomes the variables; each later
 // record only updates the column types.
@@ -143,7 +189,7 @@ public:
     {
         if (csv_init(&m_parser, CSV_STRICT | CSV_STRICT_FINI | CSV_APPEND_NULL) != 0)
             throw DataError(m_name + ": cannot set up the CSV reader");
-        std::vector<char> buffer(1 << 20);
+        std::vector<char> buffer(kCsvReadBlock);
         std::size_t begin = 0;
         std::size_t end = 0;
         bool eof = false;
@@ -196,13 +242,60 @@ private:
         }
         if (inRecord || blank || text.find('"') != std::string_view::npos)
             return QuotedLine(text);
-        // The fast way: no quote, so every delimiter separates two values.
+        if (m_haveHeader)
+            return ValueLine(text);
+        // No quote, so every delimiter separates two values.
         for (std::size_t start = 0;;) {
             const std::size_t stop = text.find(m_delimiter, start);
             Field(Trim(text.substr(start, stop == std::string_view::npos ? std::string_view::npos : stop - start)));
             if (stop == std::string_view::npos || !m_error.empty())
                 break;
             start = stop + 1;
+        }
+        RecordEnd();
+    }
+
+    // A record of values without a quote, the bulk of a file. In a column
+    // still numeric, a value in IsPlainNumber's form with no blanks around
+    // it is settled by the scan that finds its end; anything else goes the
+    // general way, through Field, which also checks the encoding.
+    void ValueLine(std::string_view text)
+    {
+        const char* p = text.data();
+        const char* const end = p + text.size();
+        const std::size_t columns = m_variables.size();
+        for (;;) {
+            if (m_column < columns && m_numeric[m_column]) {
+                const char* q = p;
+                if (q != end && (*q == '-' || *q == '+'))
+                    ++q;
+                const char* const digits = q;
+                const char* point = nullptr;
+                for (; q != end; ++q) {
+                    if (static_cast<unsigned char>(*q - '0') < 10)
+                        continue;
+                    if (*q != '.' || point)
+                        break;
+                    point = q;
+                }
+                const auto count = (q - digits) - (point ? 1 : 0);
+                if (count > 0 && count <= 15) {
+                    if (q == end) {
+                        ++m_column;
+                        break;
+                    }
+                    if (*q == m_delimiter) {
+                        ++m_column;
+                        p = q + 1;
+                        continue;
+                    }
+                }
+            }
+            const auto* stop = static_cast<const char*>(std::memchr(p, m_delimiter, static_cast<std::size_t>(end - p)));
+            Field(Trim({p, static_cast<std::size_t>((stop ? stop : end) - p)}));
+            if (!stop || !m_error.empty())
+                break;
+            p = stop + 1;
         }
         RecordEnd();
     }
@@ -225,6 +318,7 @@ private:
             throw DataError(m_name + " line 1: the file has no header row of variable names");
         for (std::size_t c = 0; c < m_variables.size(); ++c)
             m_variables[c].type = m_numeric[c] ? NmsEnum::VT_NUMERIC : NmsEnum::VT_STRING;
+        m_variables.shrink_to_fit(); // the sheet lives as long as the session
         return DataSheet(std::move(m_variables), m_cases, m_name);
     }
 
@@ -294,7 +388,7 @@ private:
             return;
         if (!m_haveHeader) {
             m_haveHeader = true;
-            m_seen = {};
+            m_names.Clear();
         } else {
             if (m_column < m_variables.size())
                 Fail(m_column + 1, std::to_string(m_column) + " values where the header names " +
@@ -307,19 +401,18 @@ private:
 
     void AddVariable(std::string_view field)
     {
-        std::string name(field);
-        name.erase(0, name.find_first_not_of(" \t"));
-        name.erase(name.find_last_not_of(" \t\r") + 1);
+        std::string_view name = field;
+        name.remove_prefix(std::min(name.find_first_not_of(" \t"), name.size()));
+        name = name.substr(0, name.find_last_not_of(" \t\r") + 1);
         if (name.empty())
             return Fail(m_column + 1, "empty variable name");
         for (const unsigned char ch : field)
             if (ch < 0x20 || ch == 0x7F)
                 return Fail(m_column + 1, "the variable name holds a control character");
-        const auto [it, added] = m_seen.emplace(name, m_column);
-        if (!added)
-            return Fail(m_column + 1, "variable name \"" + name + "\" is already used in column " +
-                                          std::to_string(it->second + 1));
         m_variables.push_back({CString::FromUtf8(name), NmsEnum::VT_NUMERIC});
+        if (const std::size_t first = m_names.Insert(m_variables, m_column); first != m_column)
+            return Fail(m_column + 1, "variable name \"" + std::string(name) + "\" is already used in column " +
+                                          std::to_string(first + 1));
         // A name ending in '$' makes a string variable whatever its values.
         m_numeric.push_back(!name.ends_with('$'));
     }
@@ -355,8 +448,8 @@ private:
     char m_delimiter = ',';
     std::string m_quoted;
     std::vector<Variable> m_variables;
-    std::vector<bool> m_numeric;
-    std::unordered_map<std::string, std::size_t> m_seen;
+    std::vector<std::uint8_t> m_numeric; // per column: no value so far says otherwise
+    NameIndex m_names;                   // while the header is read
     bool m_haveHeader = false;
     std::size_t m_cases = 0;
     std::size_t m_line = 0;

@@ -69,4 +69,8 @@ private:
 // count as numbers).
 bool IsNumberText(std::string_view text);
 
+// How much of a file the CSV reader reads at a time (a longer line makes it
+// read more).
+inline constexpr std::size_t kCsvReadBlock = std::size_t{1} << 20;
+
 } // namespace kalhost

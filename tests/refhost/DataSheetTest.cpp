@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 
 using kalhost::DataError;
@@ -125,4 +126,83 @@ TEST(CsvSheet, TheBuiltInSampleIsADesignedExperiment)
     EXPECT_EQ(sheet.GetVariableName(6, 1), CString(u"B"));
     EXPECT_EQ(sheet.GetVariableType(6), NmsEnum::VT_STRING);
     EXPECT_EQ(sheet.GetCategoricalIndexes(), (std::vector<int>{5, 6})); // A and B
+}
+
+TEST(CsvSheet, UnquotedValuesInOneRowAreJudgedOneByOne)
+{
+    // Each value in its own column of one quote-free row, after a row of
+    // ones: numbers read in place must be told apart from look-alikes.
+    const std::vector<std::pair<std::string, NmsEnum::VARIABLETYPE>> values = {
+        {"+4", NmsEnum::VT_NUMERIC}, {" 5 ", NmsEnum::VT_NUMERIC}, {"-6.5e-3", NmsEnum::VT_NUMERIC},
+        {".", NmsEnum::VT_NUMERIC}, {"", NmsEnum::VT_NUMERIC}, {".5", NmsEnum::VT_NUMERIC},
+        {"5.", NmsEnum::VT_NUMERIC}, {"-123456789012345", NmsEnum::VT_NUMERIC},
+        {"12345678901234567890", NmsEnum::VT_NUMERIC}, {"7\t", NmsEnum::VT_NUMERIC},
+        {"1.2.3", NmsEnum::VT_STRING}, {"-", NmsEnum::VT_STRING}, {"+", NmsEnum::VT_STRING},
+        {"1-", NmsEnum::VT_STRING}, {"--1", NmsEnum::VT_STRING}, {"+-1", NmsEnum::VT_STRING},
+        {"12abc", NmsEnum::VT_STRING}, {"1e999", NmsEnum::VT_STRING}, {"NA", NmsEnum::VT_STRING},
+        {"1 2", NmsEnum::VT_STRING}, {std::string(400, '9'), NmsEnum::VT_STRING}}; // beyond a double
+    std::string header, ones, row;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        header += (i ? ",v" : "v") + std::to_string(i);
+        ones += i ? ",1" : "1";
+        row += (i ? "," : "") + values[i].first;
+    }
+    DataSheet sheet = Load(header + "\n" + ones + "\n" + row + "\n");
+    ASSERT_EQ(sheet.GetVariableCount(), static_cast<int>(values.size()));
+    for (std::size_t i = 0; i < values.size(); ++i)
+        EXPECT_EQ(sheet.GetVariableType(static_cast<int>(i)), values[i].second) << '"' << values[i].first << '"';
+}
+
+TEST(CsvSheet, QuotesLateInAWideFile)
+{
+    std::string header, numbers;
+    for (int c = 0; c < 2000; ++c) {
+        header += (c ? ",V" : "V") + std::to_string(c);
+        numbers += (c ? "," : "") + std::to_string(c % 10);
+    }
+    std::string csv = header + "\n";
+    for (int r = 0; r < 50; ++r)
+        csv += numbers + "\n";
+    // Line 52 quotes a number and a text; line 53 opens a value that ends
+    // on line 54.
+    const std::string head = numbers.substr(0, numbers.rfind(','));
+    const std::string first1998 = head.substr(0, head.rfind(','));
+    csv += first1998 + ",\"7\",\"1,5\"\n" + first1998 + ",8,\"two\nlines\"\n";
+    DataSheet sheet = Load(csv + numbers + "\n");
+    EXPECT_EQ(sheet.CaseCount(), 53u);
+    EXPECT_EQ(sheet.GetVariableType(1997), NmsEnum::VT_NUMERIC);
+    EXPECT_EQ(sheet.GetVariableType(1998), NmsEnum::VT_NUMERIC);
+    EXPECT_EQ(sheet.GetVariableType(1999), NmsEnum::VT_STRING);
+
+    EXPECT_EQ(Refusal(csv + first1998 + ",\"open,3\n"), "t.csv line 55: a quoted value is not closed");
+    EXPECT_EQ(Refusal(csv + "1,2\n"), "t.csv line 55, column 3: 2 values where the header names 2000 variables");
+    EXPECT_EQ(Refusal(header + ",V1234\n"), "t.csv line 1, column 2001: variable name \"V1234\" is already used in column 1235");
+}
+
+TEST(CsvSheet, RowsAcrossTheEndOfAReadBlock)
+{
+    // Rows of "1,2" up to `offset` bytes; `row` follows, so that its byte
+    // `at` is the first of the reader's second block.
+    const auto across = [](const std::string& row, std::size_t at) {
+        std::string csv = "a,b\n";
+        while (csv.size() + 64 < kalhost::kCsvReadBlock)
+            csv += "1,2\n";
+        // The last one takes up the slack with blanks, which are no part of
+        // the value, so every file has as many lines before `row`.
+        csv += std::string(kalhost::kCsvReadBlock - at - csv.size() - 4, ' ') + "1,2\n";
+        return csv + row;
+    };
+    const std::string rows = across("", 0);
+    const auto before = static_cast<std::size_t>(std::count(rows.begin(), rows.end(), '\n'));
+    const std::string line = std::to_string(before + 1); // the row's
+
+    DataSheet crlf = Load(across("3,4\r\n5,6\r\n", 4)); // the line feed opens the block
+    EXPECT_EQ(crlf.GetVariableType(1), NmsEnum::VT_NUMERIC);
+    EXPECT_EQ(crlf.CaseCount(), before - 1 + 2);
+    EXPECT_EQ(Load(across("3,\xC3\xA9\n", 3)).GetVariableType(1), NmsEnum::VT_STRING); // a character split in two
+    EXPECT_EQ(Refusal(across("3,\xE9x\n", 2)),
+              "t.csv line " + line + ", column 2: bytes that are not UTF-8 (save the file as UTF-8)");
+    EXPECT_EQ(Refusal(across("3\n", 1)), "t.csv line " + line + ", column 2: 1 values where the header names 2 variables");
+    EXPECT_EQ(Refusal(across("3,4,5\n", 3)),
+              "t.csv line " + line + ", column 3: more values than the header names variables (2)");
 }
