@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kalqttest {
@@ -56,6 +57,24 @@ struct Trace {
     std::vector<CursorShape> dragCursors;
     std::vector<std::string> menus;
 };
+
+// Short builders for action lists.
+namespace act {
+inline Action Select(UINT list, std::vector<std::u16string> names) { return {Action::Select, list, std::move(names)}; }
+inline Action Click(UINT id) { return {Action::Click, id}; }
+inline Action Check(UINT id, int check) { return {Action::Check, id, {}, check}; }
+inline Action Choose(UINT combo, int index) { return {Action::Choose, combo, {}, index}; }
+inline Action Type(UINT edit, std::u16string text) { return {Action::Type, edit, {}, 0, 0, std::move(text)}; }
+inline Action Cell(UINT grid, int row, int column, std::u16string text)
+{
+    return {Action::Cell, grid, {}, row, column, std::move(text)};
+}
+inline Action DoubleClick(UINT list, std::u16string item) { return {Action::DoubleClick, list, {std::move(item)}}; }
+inline Action Drag(UINT list, UINT target) { return {Action::Drag, list, {}, 0, 0, {}, target}; }
+inline Action Menu(UINT list, UINT command) { return {Action::Menu, list, {}, 0, 0, {}, command}; }
+inline Action Page(int index) { return {Action::Page, 0, {}, index}; }
+inline const Action Ok{Action::Ok};
+} // namespace act
 
 void RunHeadless(CHeadlessSession& session, const CHeadlessDriver& driver, const std::vector<Action>& actions,
                  Trace& trace);

@@ -5,6 +5,8 @@
 #include "platform/Archive.h"
 #include "tests/support/Printers.h"
 
+#include <cstdint>
+#include <cstring>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -59,6 +61,23 @@ inline Bytes Int32(std::int32_t v)
 {
     const auto u = static_cast<std::uint32_t>(v);
     return {static_cast<BYTE>(u), static_cast<BYTE>(u >> 8), static_cast<BYTE>(u >> 16), static_cast<BYTE>(u >> 24)};
+}
+
+inline Bytes Float64(double v)
+{
+    Bytes bytes(8);
+    std::memcpy(bytes.data(), &v, 8);
+    return bytes;
+}
+
+// A CGUIData record: state, flag 1, default, value, flag 2.
+inline Bytes DataRecord(int state, int flag1, double defaultValue, double value, int flag2 = 1)
+{
+    return Cat({Int32(state), Int32(flag1), Float64(defaultValue), Float64(value), Int32(flag2)});
+}
+inline Bytes DataRecord(int state, int flag1, int defaultValue, int value, int flag2 = 1)
+{
+    return Cat({Int32(state), Int32(flag1), Int32(defaultValue), Int32(value), Int32(flag2)});
 }
 
 } // namespace kaltest

@@ -4,67 +4,26 @@
 #include "platform/UserInput.h"
 #include "private/Anova/KDGAnovaTabDlg.h"
 #include "tests/support/AnovaControls.h"
-#include "tests/support/FakeHost.h"
+#include "tests/support/DialogTesting.h"
 
 #include <gtest/gtest.h>
 
 using namespace kaltest;
 using namespace kaltest::anova;
-using Lines16 = std::vector<std::u16string>;
-using Script = std::function<void(CHeadlessSession&)>;
 
 namespace {
 
-
-std::vector<CString> Names(std::initializer_list<std::u16string> names)
-{
-    std::vector<CString> result;
-    for (const auto& n : names)
-        result.emplace_back(n);
-    return result;
-}
-
-class AnovaDialog : public ::testing::Test {
+class AnovaDialog : public HeadlessDialogTest {
 protected:
-    AnovaDialog()
-    {
-        host.SetVariables({u"Y", u"Y2", u"Y3", u"Y4", u"A", u"B$", u"X"});
-        module = GetModuleFactory(&host);
-        previous = AfxSetDialogDriver(&driver);
-    }
-    ~AnovaDialog() override
-    {
-        AfxSetDialogDriver(previous);
-        module->Release();
-    }
+    AnovaDialog() : HeadlessDialogTest({u"Y", u"Y2", u"Y3", u"Y4", u"A", u"B$", u"X"}) {}
 
-    // Opens the dialog over `data` as the launch routine does and runs
-    // `script` in it.
-    INT_PTR Run(const Script& script)
-    {
-        CAnovaTabDlg dialog;
-        dialog.SetData(&data);
-        dialog.SetCaptionIDs({2023, 2022, 2263, 0});
-        data.FillListSource();
-        driver.SetScript(script);
-        return dialog.DoModal();
-    }
-    Lines16 Commands() const
-    {
-        CLIST<CCmdInfo> list;
-        data.GetCommandInfoList(list);
-        return Lines(list);
-    }
+    INT_PTR Run(const Script& script) { return Open<CAnovaTabDlg>(data, {2023, 2022, 2263, 0}, script); }
+    Lines16 Commands() const { return LinesOf(data); }
     static void Move(CHeadlessSession& s, std::initializer_list<std::u16string> names, UINT button)
     {
-        s.Select(SOURCE, Names(names));
-        s.Click(button);
+        HeadlessDialogTest::Move(s, SOURCE, names, button);
     }
 
-    FakeHost host;
-    IModule* module = nullptr;
-    CHeadlessDriver driver;
-    CDialogDriver* previous = nullptr;
     CAnovaTabData data;
 };
 

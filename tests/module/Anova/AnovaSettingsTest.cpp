@@ -3,12 +3,11 @@
 #include "Source/DlgStat2.h"
 #include "private/Anova/KDGAnovaTabData.h"
 #include "tests/support/ArchiveBytes.h"
-#include "tests/support/FakeHost.h"
+#include "tests/support/DialogTesting.h"
 
 #include <gtest/gtest.h>
 
 using namespace kaltest;
-using Lines16 = std::vector<std::u16string>;
 
 namespace {
 
@@ -44,23 +43,10 @@ protected:
         tab.GetRepeatMeasuresData()->SetAll(1, n, l, m);
         tab.GetRepeatMeasuresData()->SetOwnerID(2263);
     }
-    Lines16 Commands() const
-    {
-        CLIST<CCmdInfo> list;
-        tab.GetCommandInfoList(list);
-        return Lines(list);
-    }
+    Lines16 Commands() const { return LinesOf(tab); }
 };
 
 } // namespace
-
-TEST_F(AnovaSettings, TheExampleOfTheDialogWritesItsFiveLines)
-{
-    SetModel({u"Y"}, {u"A", u"B"}, {u"X"}, 1);
-    ConfirmOptions(0, 0, 0, 0, 2);
-    EXPECT_EQ(Commands(), (Lines16{u"ANOVA", u"DEPEND Y", u"CATEGORY A B / REPLACE MISS", u"COVAR X",
-                                   u"ESTIMATE / SS = TYPE3"}));
-}
 
 TEST_F(AnovaSettings, CategoryLineWithoutFactorsIsOffAndNeverMiss)
 {

@@ -3,22 +3,15 @@
 #include "platform/HeadlessDriver.h"
 #include "platform/UserInput.h"
 #include "private/Multivariate/KDGCorrelationsTabDlg.h"
-#include "tests/support/FakeHost.h"
+#include "tests/support/DialogTesting.h"
 
 #include <gtest/gtest.h>
 
 using namespace kaltest;
-using Lines16 = std::vector<std::u16string>;
-using Script = std::function<void(CHeadlessSession&)>;
 using Page0 = CCorrelationsDlg;
 using Options = CCorrOptionsDlg;
 
 namespace {
-
-std::vector<CString> Names(std::initializer_list<std::u16string> names)
-{
-    return {names.begin(), names.end()};
-}
 
 // The data-type radio buttons and combos by index.
 UINT TypeRadio(int type)
@@ -30,53 +23,24 @@ UINT TypeCombo(int type)
     return CCorrelationsData::kDataTypes[static_cast<std::size_t>(type)].combo;
 }
 
-class CorrelationsDialog : public ::testing::Test {
+class CorrelationsDialog : public HeadlessDialogTest {
 protected:
-    CorrelationsDialog()
-    {
-        host.SetVariables({u"Y", u"Y2", u"X", u"X2", u"S$", u"T$"});
-        module = GetModuleFactory(&host);
-        previous = AfxSetDialogDriver(&driver);
-    }
-    ~CorrelationsDialog() override
-    {
-        AfxSetDialogDriver(previous);
-        module->Release();
-    }
+    CorrelationsDialog() : HeadlessDialogTest({u"Y", u"Y2", u"X", u"X2", u"S$", u"T$"}) {}
 
-    // Opens the dialog over `data` with the menu row's captions and runs
-    // `script` in it.
     INT_PTR Run(const Script& script)
     {
-        CCorrelationsTabDlg dialog;
-        dialog.SetData(&data);
-        dialog.SetCaptionIDs({2057, 2363, 0, 0});
-        data.FillListSource();
-        driver.SetScript([&](CHeadlessSession& s) {
-            tab = &dialog;
+        return Open<CCorrelationsTabDlg>(data, {2057, 2363, 0, 0}, [&](CHeadlessSession& s) {
+            tab = dynamic_cast<CCorrelationsTabDlg*>(open);
             script(s);
         });
-        const INT_PTR result = dialog.DoModal();
-        tab = nullptr;
-        return result;
     }
-    Lines16 Commands() const
-    {
-        CLIST<CCmdInfo> list;
-        data.GetCommandInfoList(list);
-        return Lines(list);
-    }
+    Lines16 Commands() const { return LinesOf(data); }
     static void AddRows(CHeadlessSession& s, std::initializer_list<std::u16string> names)
     {
-        s.Select(Page0::IDC_SOURCE_LIST, Names(names));
-        s.Click(Page0::IDC_ADD_ROWS);
+        Move(s, Page0::IDC_SOURCE_LIST, names, Page0::IDC_ADD_ROWS);
     }
     bool OptionsAvailable() const { return tab->GetTabCtrl().IsItemAvailable(1); }
 
-    FakeHost host;
-    IModule* module = nullptr;
-    CHeadlessDriver driver;
-    CDialogDriver* previous = nullptr;
     CCorrelationsTabData data;
     CCorrelationsTabDlg* tab = nullptr;
 };

@@ -4,15 +4,13 @@
 #include "Source/DlgStat2.h"
 #include "private/Multivariate/KDGCorrelationsTabData.h"
 #include "tests/support/ArchiveBytes.h"
-#include "tests/support/FakeHost.h"
+#include "tests/support/DialogTesting.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstring>
 
 using namespace kaltest;
-using Lines16 = std::vector<std::u16string>;
 
 namespace {
 
@@ -67,12 +65,7 @@ protected:
 
     void SetPage(const Page& p) { Set(*tab.GetCorrelationsData(), p); }
     void SetOptions(const Options& o) { Set(*tab.GetCorrOptionsData(), o); }
-    Lines16 Commands() const
-    {
-        CLIST<CCmdInfo> list;
-        tab.GetCommandInfoList(list);
-        return Lines(list);
-    }
+    Lines16 Commands() const { return LinesOf(tab); }
     std::u16string Line() const { return Commands().back(); }
 };
 
@@ -235,22 +228,6 @@ TEST_F(CorrelationsSettings, ResamplingJoinsTheMeasureLineAfterTheOptions)
     EXPECT_TRUE(Commands().empty());
 }
 
-namespace {
-
-Bytes Float64(double value)
-{
-    Bytes bytes(8);
-    std::memcpy(bytes.data(), &value, 8);
-    return bytes;
-}
-
-Bytes Holder(int state, double value, double defaultValue, int flag1)
-{
-    return Cat({Int32(state), Int32(flag1), Float64(defaultValue), Float64(value), Int32(1)});
-}
-
-} // namespace
-
 TEST_F(CorrelationsSettings, RecordBytesFollowTheStoredFieldOrder)
 {
     CCorrelationsData page;
@@ -271,8 +248,8 @@ TEST_F(CorrelationsSettings, RecordBytesFollowTheStoredFieldOrder)
     // normal parameters (never written for "every option") and df.
     const Bytes optionBytes =
         Cat({Int32(1), Int32(0), Int32(1), Int32(2), Int32(1), Int32(0), Int32(0), Int32(20), Int32(50), Int32(1),
-             Holder(1, 0.001, 0.001, 0), Holder(1, 0.0001, 0.0001, 0), Holder(1, 0, 0, 1), Holder(1, 0, 0, 1),
-             Holder(0, 8, 5, 0)});
+             DataRecord(1, 0, 0.001, 0.001), DataRecord(1, 0, 0.0001, 0.0001), DataRecord(1, 1, 0.0, 0.0),
+             DataRecord(1, 1, 0.0, 0.0), DataRecord(0, 0, 5.0, 8.0)});
     EXPECT_EQ(Store([&](CArchive& ar) { options.Serialize(ar); }), optionBytes);
 
     CCorrOptionsData back;

@@ -4,67 +4,27 @@
 #include "platform/HeadlessDriver.h"
 #include "private/Quality/KDGShewhartTabDlg.h"
 #include "private/Quality/KDGXMrTabDlg.h"
-#include "tests/support/FakeHost.h"
+#include "tests/support/DialogTesting.h"
 
 #include <gtest/gtest.h>
 
 using namespace kaltest;
-using Lines16 = std::vector<std::u16string>;
-using Script = std::function<void(CHeadlessSession&)>;
 using S = CShewhartDlg;
 using X = CXMrDlg;
 using T = CQcTestsDlg;
 
 namespace {
 
-std::vector<CString> Names(std::initializer_list<std::u16string> names)
-{
-    return {names.begin(), names.end()};
-}
-
 // Chart types by their place in the list.
 enum { XBAR = 0, RANGE = 1, SD = 2, P = 4, NP = 5, C = 6, MEDIAN = 8 };
 
-class ChartDialog : public ::testing::Test {
+class ChartDialog : public HeadlessDialogTest {
 protected:
-    ChartDialog()
-    {
-        host.SetVariables({u"Y", u"T1", u"T2", u"Lot", u"Shift$", u"W"});
-        module = GetModuleFactory(&host);
-        previous = AfxSetDialogDriver(&driver);
-    }
-    ~ChartDialog() override
-    {
-        AfxSetDialogDriver(previous);
-        module->Release();
-    }
+    ChartDialog() : HeadlessDialogTest({u"Y", u"T1", u"T2", u"Lot", u"Shift$", u"W"}) {}
 
-    // Opens a dialog over `data` as the launch routine does and runs
-    // `script` in it.
-    template <class TDlg, class TData>
-    INT_PTR Run(TData& data, UINT caption, const Script& script)
-    {
-        TDlg dialog;
-        dialog.SetData(&data);
-        dialog.SetCaptionIDs({caption, 0, 0, 0});
-        data.FillListSource();
-        driver.SetScript(script);
-        return dialog.DoModal();
-    }
-    INT_PTR RunShewhart(const Script& script) { return Run<CShewhartTabDlg>(shewhart, 2279, script); }
-    INT_PTR RunXMr(const Script& script) { return Run<CXMrTabDlg>(xmr, 2338, script); }
-
-    static Lines16 Commands(const CGUIBaseObj& settings)
-    {
-        CLIST<CCmdInfo> list;
-        settings.GetCommandInfoList(list);
-        return Lines(list);
-    }
-    static void Move(CHeadlessSession& s, UINT source, std::initializer_list<std::u16string> names, UINT button)
-    {
-        s.Select(source, Names(names));
-        s.Click(button);
-    }
+    INT_PTR RunShewhart(const Script& script) { return Open<CShewhartTabDlg>(shewhart, {2279, 0, 0, 0}, script); }
+    INT_PTR RunXMr(const Script& script) { return Open<CXMrTabDlg>(xmr, {2338, 0, 0, 0}, script); }
+    static Lines16 Commands(const CGUIBaseObj& settings) { return LinesOf(settings); }
     // OK refused: the dialog stays open with the focus on `control`.
     void ExpectRefused(CHeadlessSession& s, UINT message, UINT control)
     {
@@ -75,10 +35,6 @@ protected:
         EXPECT_EQ(s.Dialog().GetFocusCtrl(), &s.Find(control)) << control;
     }
 
-    FakeHost host;
-    IModule* module = nullptr;
-    CHeadlessDriver driver;
-    CDialogDriver* previous = nullptr;
     CShewhartTabData shewhart;
     CXMrTabData xmr;
 };

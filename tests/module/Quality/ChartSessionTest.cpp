@@ -1,6 +1,5 @@
-// The control charts in sessions: the sample scripts through kalhost,
-// choices that survive a restart, and the module line the host's command
-// runner records.
+// The control charts in sessions: choices that survive a restart through
+// kalhost, and the module line the host's command runner records.
 #include "host/KalUseRes.h"
 #include "private/Quality/KDGXMrTabData.h"
 #include "refhost/HostGlobal.h"
@@ -22,27 +21,7 @@ ProcessResult Kalhost(const std::vector<std::string>& args, const std::string& i
     return RunProcess(KALHOST_PATH, args, input);
 }
 
-std::string Sample(const std::string& name)
-{
-    return std::string(KAL_SOURCE_DIR) + "/samples/" + name;
-}
-
 } // namespace
-
-TEST(ChartSession, TheSampleScriptsWriteTheirCharts)
-{
-    const auto shewhart = Kalhost({"--data", Sample("fill-weights.csv"), "play", Sample("shewhart.kal")});
-    EXPECT_EQ(shewhart.status, 0) << shewhart.err;
-    EXPECT_EQ(shewhart.err, "");
-    EXPECT_EQ(shewhart.out, "QC\n"
-                            "SHEWHART weight*lot / TYPE=XBAR SLIMITS=3,3  TEST = 1 2 \n"
-                            "QC\n"
-                            "SHEWHART defective*lot / TYPE=P CENTER=0.15 PLIMITS=0.005,0.995  TEST = 1 2 \n");
-
-    const auto xmr = Kalhost({"--data", Sample("fill-weights.csv"), "play", Sample("xmr.kal")});
-    EXPECT_EQ(xmr.status, 0) << xmr.err;
-    EXPECT_EQ(xmr.out, "QC\nXMR   weight /  WIDTH = 3  CENTER = 500 SLIMITS=3,3 MEAN \n");
-}
 
 TEST(ChartSession, ChoicesSurviveARestartButTheKnownCenterIsInUseForTheSessionOnly)
 {

@@ -3,14 +3,11 @@
 #include "private/Quality/KDGShewhartTabData.h"
 #include "private/Quality/KDGXMrTabData.h"
 #include "tests/support/ArchiveBytes.h"
-#include "tests/support/FakeHost.h"
+#include "tests/support/DialogTesting.h"
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 using namespace kaltest;
-using Lines16 = std::vector<std::u16string>;
 
 namespace {
 
@@ -58,24 +55,7 @@ struct XMr {
     }
 };
 
-Lines16 Commands(const CGUIBaseObj& settings)
-{
-    CLIST<CCmdInfo> list;
-    settings.GetCommandInfoList(list);
-    return Lines(list);
-}
-
-Bytes Double(double v)
-{
-    Bytes bytes(8);
-    std::memcpy(bytes.data(), &v, 8);
-    return bytes;
-}
-
-Bytes Holder(int state, int flag1, double defaultValue, double value, int flag2)
-{
-    return Cat({Int32(state), Int32(flag1), Double(defaultValue), Double(value), Int32(flag2)});
-}
+Lines16 Commands(const CGUIBaseObj& settings) { return LinesOf(settings); }
 
 class ChartSettings : public ::testing::Test {
 protected:
@@ -259,14 +239,14 @@ TEST_F(ChartSettings, ShewhartRecordKeepsItsOrderAndLeavesThePagesIntegersOut)
     s.sigmaInUse = s.centerInUse = s.aggEnabled = s.totalEnabled = 1;
     s.Into(chart);
 
-    const Bytes zero = Holder(1, 2, 0.0, 0.0, 1);
+    const Bytes zero = DataRecord(1, 2, 0.0, 0.0, 1);
     const Bytes expected =
         Cat({Int32(1), Int32(0), Int32(1), Int32(0), Int32(1), Int32(4),
              // source (one element block), group, chart, frequency
              {0x01, 0x00}, Int32(0), Int32(0), Int32(1), Int32(2), Int32(0), Int32(0), {0x00, 0x00}, {0x00, 0x00},
              {0x00, 0x00},
              // center, sigma, probability, preset and sigma bounds
-             zero, Holder(0, 2, 0.0, 1.5, 1), zero, zero, zero, Holder(0, 2, 0.0, 8.0, 1), zero, zero});
+             zero, DataRecord(0, 2, 0.0, 1.5, 1), zero, zero, zero, DataRecord(0, 2, 0.0, 8.0, 1), zero, zero});
     EXPECT_EQ(Store([&](CArchive& ar) { chart.Serialize(ar); }), expected);
 
     CShewhartData back;
@@ -294,13 +274,13 @@ TEST_F(ChartSettings, XMrAndRunTestsRecordsKeepTheirOrder)
     x.centerLine = 1;
     x.limits = 1;
     x.Into(chart);
-    const Bytes zero = Holder(1, 0, 0.0, 0.0, 1);
+    const Bytes zero = DataRecord(1, 0, 0.0, 0.0, 1);
     const Bytes expected = Cat({Int32(1), Int32(1), {0x00, 0x00}, {0x01, 0x00}, Int32(0), Int32(0), Int32(1),
                                 Int32(0), Int32(0), Int32(0),
                                 // width: state, flag 1, default, value, flag 2
                                 Int32(0), Int32(0), Int32(2), Int32(4), Int32(1),
                                 // center, MR, sigma, probability and sigma bounds
-                                zero, Holder(0, 0, 0.0, 1.25, 1), zero, zero, zero, zero, zero});
+                                zero, DataRecord(0, 0, 0.0, 1.25, 1), zero, zero, zero, zero, zero});
     EXPECT_EQ(Store([&](CArchive& ar) { chart.Serialize(ar); }), expected);
 
     CQcTestsData tests;

@@ -8,13 +8,11 @@
 #include "platform/HeadlessDriver.h"
 #include "private/Regression/KDGLogitTabDlg.h"
 #include "tests/support/ArchiveBytes.h"
-#include "tests/support/FakeHost.h"
+#include "tests/support/DialogTesting.h"
 
 #include <gtest/gtest.h>
 
 using namespace kaltest;
-using Lines16 = std::vector<std::u16string>;
-using Script = std::function<void(CHeadlessSession&)>;
 using Model = CLogitDlg;
 using Categories = CLogitCategoriesDlg;
 using Sets = CLogitSetsDlg;
@@ -25,52 +23,19 @@ namespace {
 
 enum Page { kModel = 0, kCategories = 1, kSets = 2, kEstimation = 3, kDeciles = 4 };
 
-std::vector<CString> Names(std::initializer_list<std::u16string> names)
-{
-    std::vector<CString> result;
-    for (const auto& n : names)
-        result.emplace_back(n);
-    return result;
-}
-
-class LogitDialog : public ::testing::Test {
+class LogitDialog : public HeadlessDialogTest {
 protected:
-    LogitDialog()
+    LogitDialog() : HeadlessDialogTest({u"Y", u"R$", u"X", u"X2", u"A", u"G$", u"S1", u"S2", u"S3"})
     {
-        host.SetVariables({u"Y", u"R$", u"X", u"X2", u"A", u"G$", u"S1", u"S2", u"S3"});
         host.sheet.variables[4].categorical = true; // A
-        module = GetModuleFactory(&host);
-        previous = AfxSetDialogDriver(&driver);
-    }
-    ~LogitDialog() override
-    {
-        AfxSetDialogDriver(previous);
-        module->Release();
     }
 
-    // Opens the dialog over `data` as the launch routine does and runs
-    // `script` in it.
-    INT_PTR Run(const Script& script)
-    {
-        CLogitTabDlg dialog;
-        dialog.SetData(&data);
-        dialog.SetCaptionIDs({2146, 2216, 2145, 0});
-        data.ReassignDefaultValue();
-        data.FillListSource();
-        driver.SetScript(script);
-        return dialog.DoModal();
-    }
-    Lines16 Commands() const
-    {
-        CLIST<CCmdInfo> list;
-        data.GetCommandInfoList(list);
-        return Lines(list);
-    }
+    INT_PTR Run(const Script& script) { return Open<CLogitTabDlg>(data, {2146, 2216, 2145, 0}, script, true); }
+    Lines16 Commands() const { return LinesOf(data); }
     static void Move(CHeadlessSession& s, std::initializer_list<std::u16string> names, UINT button,
                      UINT source = Model::IDC_SOURCE_LIST)
     {
-        s.Select(source, Names(names));
-        s.Click(button);
+        HeadlessDialogTest::Move(s, source, names, button);
     }
     static void UseSets(CHeadlessSession& s)
     {
@@ -79,10 +44,6 @@ protected:
         Move(s, {u"S1", u"S2"}, Sets::IDC_ADD_SET, Sets::IDC_SOURCE_LIST);
     }
 
-    FakeHost host;
-    IModule* module = nullptr;
-    CHeadlessDriver driver;
-    CDialogDriver* previous = nullptr;
     CLogitTabData data;
 };
 

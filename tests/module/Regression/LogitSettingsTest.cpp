@@ -4,23 +4,16 @@
 #include "Source/DlgStat2.h"
 #include "private/Regression/KDGLogitTabData.h"
 #include "tests/support/ArchiveBytes.h"
-#include "tests/support/FakeHost.h"
+#include "tests/support/DialogTesting.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 
 using namespace kaltest;
-using Lines16 = std::vector<std::u16string>;
 using Reports = std::vector<std::pair<std::string, int>>;
 
 namespace {
-
-template <class T>
-CGUIData<T> Changed(T value, T defaultValue)
-{
-    return CGUIData<T>(0, value, defaultValue, 0, 1);
-}
 
 CGUIArray<CGUIDataVariable> Mixed(std::initializer_list<std::u16string> names)
 {
@@ -36,13 +29,6 @@ std::vector<std::u16string> Names(const CGUIArray<CGUIDataVariable>& list)
     for (const auto& v : list)
         names.push_back(v.GetVariableName().Str());
     return names;
-}
-
-Lines16 LinesOf(const CGUIBaseObj& settings)
-{
-    CLIST<CCmdInfo> list;
-    settings.GetCommandInfoList(list);
-    return Lines(list);
 }
 
 // The model page's settings, from the defaults.

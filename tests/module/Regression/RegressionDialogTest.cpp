@@ -9,13 +9,11 @@
 #include "platform/UserInput.h"
 #include "private/Regression/KDGRegressionTabDlg.h"
 #include "tests/support/ArchiveBytes.h"
-#include "tests/support/FakeHost.h"
+#include "tests/support/DialogTesting.h"
 
 #include <gtest/gtest.h>
 
 using namespace kaltest;
-using Lines16 = std::vector<std::u16string>;
-using Script = std::function<void(CHeadlessSession&)>;
 using Model = CRegressionDlg;
 using Estimation = CRegressionOptionsDlg;
 using Predict = CRegressionPredictDlg;
@@ -24,57 +22,18 @@ namespace {
 
 enum Page { kModel = 0, kEstimation = 1, kOptions = 2, kPrediction = 3, kResampling = 4 };
 
-std::vector<CString> Names(std::initializer_list<std::u16string> names)
-{
-    std::vector<CString> result;
-    for (const auto& n : names)
-        result.emplace_back(n);
-    return result;
-}
-
-class RegressionDialog : public ::testing::Test {
+class RegressionDialog : public HeadlessDialogTest {
 protected:
-    RegressionDialog()
-    {
-        host.SetVariables({u"Y", u"Y2", u"X", u"X2", u"W", u"G$"});
-        module = GetModuleFactory(&host);
-        previous = AfxSetDialogDriver(&driver);
-    }
-    ~RegressionDialog() override
-    {
-        AfxSetDialogDriver(previous);
-        module->Release();
-    }
+    RegressionDialog() : HeadlessDialogTest({u"Y", u"Y2", u"X", u"X2", u"W", u"G$"}) {}
 
-    // Opens the dialog over `data` as the launch routine does and runs
-    // `script` in it.
-    INT_PTR Run(const Script& script)
-    {
-        CRegressionTabDlg dialog;
-        dialog.SetData(&data);
-        dialog.SetCaptionIDs({2261, 0, 0, 0});
-        data.ReassignDefaultValue();
-        data.FillListSource();
-        driver.SetScript(script);
-        return dialog.DoModal();
-    }
-    Lines16 Commands() const
-    {
-        CLIST<CCmdInfo> list;
-        data.GetCommandInfoList(list);
-        return Lines(list);
-    }
+    INT_PTR Run(const Script& script) { return Open<CRegressionTabDlg>(data, {2261, 0, 0, 0}, script, true); }
+    Lines16 Commands() const { return LinesOf(data); }
     static void Move(CHeadlessSession& s, std::initializer_list<std::u16string> names, UINT button)
     {
-        s.Select(Model::IDC_SOURCE_LIST, Names(names));
-        s.Click(button);
+        HeadlessDialogTest::Move(s, Model::IDC_SOURCE_LIST, names, button);
     }
     static bool Reachable(CHeadlessSession& s, UINT id) { return CUserInput::IsReachable(s.Find(id)); }
 
-    FakeHost host;
-    IModule* module = nullptr;
-    CHeadlessDriver driver;
-    CDialogDriver* previous = nullptr;
     CRegressionTabData data;
 };
 

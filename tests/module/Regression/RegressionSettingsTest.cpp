@@ -4,50 +4,14 @@
 #include "Source/DlgStat2.h"
 #include "private/Regression/KDGRegressionTabData.h"
 #include "tests/support/ArchiveBytes.h"
-#include "tests/support/FakeHost.h"
+#include "tests/support/DialogTesting.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
-
 using namespace kaltest;
-using Lines16 = std::vector<std::u16string>;
 using Reports = std::vector<std::pair<std::string, int>>;
 
 namespace {
-
-// The eight bytes of a double, given as its IEEE bit pattern.
-Bytes F64(std::uint64_t bits)
-{
-    Bytes bytes;
-    for (int i = 0; i < 8; ++i)
-        bytes.push_back(static_cast<BYTE>(bits >> (8 * i)));
-    return bytes;
-}
-
-// A CGUIData record: state, flag 1, default, value, flag 2.
-Bytes IntHolder(int state, int defaultValue, int value)
-{
-    return Cat({Int32(state), Int32(0), Int32(defaultValue), Int32(value), Int32(1)});
-}
-Bytes DoubleHolder(int state, std::uint64_t defaultBits, std::uint64_t valueBits)
-{
-    return Cat({Int32(state), Int32(0), F64(defaultBits), F64(valueBits), Int32(1)});
-}
-
-constexpr std::uint64_t k1em12 = 0x3D719799812DEA11;
-constexpr std::uint64_t k0_15 = 0x3FC3333333333333;
-constexpr std::uint64_t k4_0 = 0x4010000000000000;
-constexpr std::uint64_t k3_9 = 0x400F333333333333;
-constexpr std::uint64_t k0_95 = 0x3FEE666666666666;
-constexpr std::uint64_t k0_5 = 0x3FE0000000000000;
-
-// A value changed from its default, as the page leaves it.
-template <class T>
-CGUIData<T> Changed(T value, T defaultValue)
-{
-    return CGUIData<T>(0, value, defaultValue, 0, 1);
-}
 
 // The estimation page's settings, built from the defaults with changes.
 struct Options {
@@ -69,13 +33,6 @@ struct Options {
     }
 };
 
-Lines16 LinesOf(const CGUIBaseObj& settings)
-{
-    CLIST<CCmdInfo> list;
-    settings.GetCommandInfoList(list);
-    return Lines(list);
-}
-
 class RegressionSettings : public ::testing::Test {
 protected:
     FakeHost host;
@@ -94,12 +51,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(RegressionSettings, DefaultsWriteTheModuleTheModelAndAnOpenEstimateLine)
-{
-    SetModel({u"Y"}, {u"X1", u"X2"});
-    EXPECT_EQ(Commands(), (Lines16{u"REGRESS", u"MODEL Y = CONSTANT+X1+X2", u"ESTIMATE /"}));
-}
 
 TEST_F(RegressionSettings, TheModelLineFollowsTheConstantAndItsEnableState)
 {
@@ -365,7 +316,7 @@ TEST_F(RegressionSettings, ModelRecordBytes)
     // constant (value, window state), source, dependent, independent, cases.
     const Bytes expected = Cat({Int32(1), Int32(3), {0xFF, 0xFE, 0xFF, 0x05, 'r', 0, '.', 0, 'k', 0, 'v', 0, 'd', 0},
                                 Int32(1), Int32(0), Int32(1), {0x01, 0x00}, Int32(0), Int32(0), Int32(1), Int32(4),
-                                Int32(0), Int32(0), {0x00, 0x00}, {0x00, 0x00}, IntHolder(0, 0, 50)});
+                                Int32(0), Int32(0), {0x00, 0x00}, {0x00, 0x00}, DataRecord(0, 0, 0, 50)});
     EXPECT_EQ(Store([&](CArchive& ar) { model.Serialize(ar); }), expected);
 
     CRegressionData back;
@@ -397,10 +348,10 @@ TEST_F(RegressionSettings, EstimationRecordBytesPutTheConfidenceLast)
     // The seven ints in member order, then tolerance, the probabilities,
     // the F values, maximum step, force and the confidence.
     const Bytes expected = Cat({Int32(1), Int32(1), Int32(0), Int32(0), Int32(1), Int32(1), Int32(0),
-                                DoubleHolder(1, k1em12, k1em12), DoubleHolder(1, k0_15, k0_15),
-                                DoubleHolder(0, k0_15, k0_5), DoubleHolder(1, k4_0, k4_0),
-                                DoubleHolder(1, k3_9, k3_9), IntHolder(0, 15, 7), IntHolder(1, 0, 0),
-                                DoubleHolder(1, k0_95, k0_95)});
+                                DataRecord(1, 0, 1e-12, 1e-12), DataRecord(1, 0, 0.15, 0.15),
+                                DataRecord(0, 0, 0.15, 0.5), DataRecord(1, 0, 4.0, 4.0),
+                                DataRecord(1, 0, 3.9, 3.9), DataRecord(0, 0, 15, 7), DataRecord(1, 0, 0, 0),
+                                DataRecord(1, 0, 0.95, 0.95)});
     EXPECT_EQ(Store([&](CArchive& ar) { options.Serialize(ar); }), expected);
 
     CRegressionOptionsData back;
@@ -418,7 +369,7 @@ TEST_F(RegressionSettings, PredictionRecordBytes)
     predict.SetAll(u"u", u"pv", CGUIData<double>(0, 0.5, 0.95, 0, 1), 1, 0, 1);
     // use file, save file, predict, save, save index, then the confidence.
     const Bytes expected = Cat({{0xFF, 0xFE, 0xFF, 0x01, 'u', 0}, {0xFF, 0xFE, 0xFF, 0x02, 'p', 0, 'v', 0}, Int32(1),
-                                Int32(0), Int32(1), DoubleHolder(0, k0_95, k0_5)});
+                                Int32(0), Int32(1), DataRecord(0, 0, 0.95, 0.5)});
     EXPECT_EQ(Store([&](CArchive& ar) { predict.Serialize(ar); }), expected);
     CRegressionPredictData back;
     Load(expected, [&](CArchive& ar) { back.Serialize(ar); });

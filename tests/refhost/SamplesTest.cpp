@@ -1,0 +1,101 @@
+// The sample scripts under samples/ through kalhost as a user runs them:
+// each writes its lines, and after a restart the settings store gives the
+// last OK's lines back and reopens the dialog with its choices.
+#include "tests/support/Process.h"
+
+#include <gtest/gtest.h>
+
+using kaltest::RunProcess;
+using kaltest::TempDir;
+
+namespace {
+
+std::vector<std::string> Args(std::vector<std::string> first, const std::vector<std::string>& more)
+{
+    first.insert(first.end(), more.begin(), more.end());
+    return first;
+}
+
+struct Sample {
+    std::string script;
+    std::string data; // a data file under samples/, or none
+    std::string lines;
+    std::string id;             // the command the last session ran
+    std::string stored;         // what `commands ID` writes after a restart
+    std::string reopenActions;  // reopening after a restart: checks of what the dialog shows
+    int reopenStatus;
+    std::string reopenError;    // part of the message, when it fails
+    std::string reopenLines;    // what its OK writes
+};
+
+const char* const kStepwiseLines = "REGRESS\n"
+                                   "MODEL Y = CONSTANT+X+X2+W\n"
+                                   "SAVE 'residuals.kvd' / RESIDUALS\n"
+                                   "START / FORWARD FENTER = 5\n"
+                                   "STEP / AUTO\n"
+                                   "STOP / CONFI = 0.9\n";
+const char* const kChoiceLines = "LOGIT\n"
+                                 "SET avail1 avail2 avail3 / INDICATORS\n"
+                                 "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
+                                 "ESTIMATE / CONFI = 0.9 ITER = 100\n";
+
+} // namespace
+
+TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
+{
+    const Sample samples[] = {
+        {"correlations.kal", "",
+         "CORR\nSAVE 'harvests.kvd'\nPEARSON T1 T2 T3 / PAIRWISE BONF\nCORR\nSPEARMAN Y Y2*X X2 / EM T = 8\n"
+         "CORR\nCITYBLOCK Y Y2 X X2 / SAMPLE = BOOT(500)\n",
+         "2002", "CORR\nCITYBLOCK Y Y2 X X2 / SAMPLE = BOOT(500)\n",
+         // The options page, out of use for distances, is back with its
+         // choices for a measure it serves.
+         "click 1423\nexpect items 1438 Y Y2 X X2\npage 1\nexpect checked 1402 1\nexpect checked 1412 1\n"
+         "expect text 1399 8\nok\n",
+         0, "", "CORR\nPEARSON Y Y2 X X2 / EM T = 8 SAMPLE = BOOT(500)\n"},
+        {"regression.kal", "",
+         std::string("REGRESS\nMODEL Y = CONSTANT+X+X2\nSAVE 'residuals.kvd' / RESIDUALS\n"
+                     "ESTIMATE / CONFI = 0.9 NTEST = SW\n") + kStepwiseLines,
+         "2051", kStepwiseLines,
+         "expect items 4103 X X2 W\npage 1\nexpect checked 4172 1\nexpect text 4153 5\nexpect enabled 4151 0\n"
+         "page 3\nexpect enabled 4176 0\ncancel\n",
+         1, "", ""},
+        {"logit.kal", "commute.csv",
+         std::string("LOGIT\nCATEGORY region / DUMMY REF = FIRST\nMODEL car = CONSTANT+income+age+region\n"
+                     "ESTIMATE / ITER = 100\nDECILE / GROUPS = 8\n") + kChoiceLines,
+         "2004", kChoiceLines,
+         // With choice sets the deciles page is out of use.
+         "expect items 2684 cost1 cost2 cost3\nexpect text 2694 0.9\npage 2\nexpect checked 2727 1\npage 3\n"
+         "expect enabled 2742 0\npage 4\ncancel\n",
+         2, "page 4 is not available", ""},
+        {"shewhart.kal", "fill-weights.csv",
+         "QC\nSHEWHART weight*lot / TYPE=XBAR SLIMITS=3,3  TEST = 1 2 \n"
+         "QC\nSHEWHART defective*lot / TYPE=P CENTER=0.15 PLIMITS=0.005,0.995  TEST = 1 2 \n",
+         "", "", "", 1, "", ""},
+        {"xmr.kal", "fill-weights.csv", "QC\nXMR   weight /  WIDTH = 3  CENTER = 500 SLIMITS=3,3 MEAN \n", "", "", "", 1, "", ""},
+    };
+    for (const Sample& sample : samples) {
+        SCOPED_TRACE(sample.script);
+        TempDir dir;
+        std::vector<std::string> options{"--store", dir.Path() + "/settings.store"};
+        if (!sample.data.empty())
+            options = Args({"--data", std::string(KAL_SOURCE_DIR) + "/samples/" + sample.data}, options);
+        const auto played =
+            RunProcess(KALHOST_PATH, Args(options, {"play", std::string(KAL_SOURCE_DIR) + "/samples/" + sample.script}));
+        EXPECT_EQ(played.status, 0) << played.err;
+        EXPECT_EQ(played.err, "");
+        EXPECT_EQ(played.out, sample.lines);
+        if (sample.id.empty())
+            continue;
+
+        EXPECT_EQ(RunProcess(KALHOST_PATH, Args(options, {"commands", sample.id})).out, sample.stored);
+        const auto reopened =
+            RunProcess(KALHOST_PATH, Args(options, {"open", sample.id, "--actions", "-"}), sample.reopenActions);
+        EXPECT_EQ(reopened.status, sample.reopenStatus) << reopened.err;
+        if (sample.reopenError.empty())
+            EXPECT_EQ(reopened.err, "");
+        else
+            EXPECT_NE(reopened.err.find(sample.reopenError), std::string::npos) << reopened.err;
+        EXPECT_EQ(reopened.out, sample.reopenLines);
+    }
+}
