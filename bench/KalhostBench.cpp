@@ -1,6 +1,7 @@
 // kalhost as a whole process.
 //  - start-up: `kalhost list` (load the library, build the module, list,
-//    release) against `true`, both spawned in the same run;
+//    release) against `true`, both spawned in the same run: at most 1 ms
+//    more;
 //  - a CSV of 1,000 cases and 10,000 or 100,000 variables: load the sheet,
 //    open 2008, move 1,000 variables, confirm. Linear work gives a ratio
 //    near 10 between the two. Each run's peak resident set is reported as
@@ -81,8 +82,9 @@ int main(int argc, char** argv)
     benchmark::RegisterBenchmark("spawn_true", Spawn, std::string("/bin/true"), std::vector<std::string>{},
                                  std::string())
         ->Unit(benchmark::kMillisecond);
+    // Start-up is a fixed cost, so its goal is a time over `true`, not a ratio.
     benchmark::RegisterBenchmark("kalhost_list", Spawn, std::string(KALHOST_PATH), std::vector<std::string>{"list"},
-                                 std::string("baseline=spawn_true"))
+                                 kalbench::Over("spawn_true", 1))
         ->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("kalhost_wide_csv/10000", WideSheet, 10'000, std::string())
         ->Unit(benchmark::kMillisecond)

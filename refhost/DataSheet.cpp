@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstring>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 
 namespace kalhost {
@@ -466,6 +467,18 @@ DataSheet DataSheet::LoadCsv(std::istream& in, const std::string& name)
     return CsvSheetReader(name).Read(in);
 }
 
+namespace {
+
+// The sample's design: its variables in column order, and doses x soils x
+// plots cases. Cells are numbers except for the soil, B.
+constexpr const char* kSampleNames[] = {"Y", "Y2", "T1", "T2", "T3", "A", "B", "X", "X2", "W"};
+constexpr std::string_view kSampleStringVariable = "B";
+constexpr const char* kSoils[] = {"clay", "loam", "sand"};
+constexpr int kDoses = 3;
+constexpr int kPlots = 30;
+
+} // namespace
+
 std::string DataSheet::SampleCsv()
 {
     // Values come from a fixed generator so that every run shows the same
@@ -475,18 +488,20 @@ std::string DataSheet::SampleCsv()
         state = state * 1664525u + 1013904223u;
         return (static_cast<double>(state >> 8) / 16777216.0) - 0.5;
     };
-    std::string csv = "Y,Y2,T1,T2,T3,A,B,X,X2,W\n";
-    const char* soils[] = {"clay", "loam", "sand"};
+    std::string csv;
+    for (const char* name : kSampleNames)
+        csv.append(csv.empty() ? "" : ",").append(name);
+    csv += '\n';
     char row[256];
-    for (int a = 1; a <= 3; ++a) {
-        for (int b = 0; b < 3; ++b) {
-            for (int plot = 0; plot < 30; ++plot) {
+    for (int a = 1; a <= kDoses; ++a) {
+        for (int b = 0; b < static_cast<int>(std::size(kSoils)); ++b) {
+            for (int plot = 0; plot < kPlots; ++plot) {
                 const double x = 20 + 10 * noise();
                 const double x2 = 5 + 2 * noise();
                 const double yield = 40 + 6 * a - 4 * b + 0.5 * x + 3 * noise();
                 std::snprintf(row, sizeof row, "%.2f,%.2f,%.2f,%.2f,%.2f,%d,%s,%.2f,%.2f,%.2f\n", yield,
                               yield + 2 + 4 * noise(), yield / 3 + noise(), yield / 3 + 1 + noise(),
-                              yield / 3 + 2 + noise(), a, soils[b], x, x2, 1 + 0.5 * (noise() + 0.5));
+                              yield / 3 + 2 + noise(), a, kSoils[b], x, x2, 1 + 0.5 * (noise() + 0.5));
                 csv += row;
             }
         }
@@ -496,8 +511,13 @@ std::string DataSheet::SampleCsv()
 
 DataSheet DataSheet::Sample()
 {
-    std::istringstream in(SampleCsv());
-    DataSheet sheet = LoadCsv(in, "built-in sample");
+    // What reading SampleCsv() gives, built directly: a sheet keeps no
+    // values, and the sample's types are known from its design.
+    std::vector<Variable> variables;
+    for (const char* name : kSampleNames)
+        variables.push_back(
+            {CString::FromUtf8(name), name == kSampleStringVariable ? NmsEnum::VT_STRING : NmsEnum::VT_NUMERIC});
+    DataSheet sheet(std::move(variables), kDoses * std::size(kSoils) * kPlots, "built-in sample");
     sheet.MarkCategorical({"A"});
     return sheet;
 }

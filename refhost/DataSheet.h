@@ -42,6 +42,8 @@ public:
     // each; responses Y, Y2 and the harvests T1-T3, covariates X and X2,
     // a weight W. A is marked categorical.
     static DataSheet Sample();
+    // The sample with its values, as a CSV file would hold it; LoadCsv of
+    // this text gives Sample() (before the categorical mark).
     static std::string SampleCsv();
 
     // Marks the named variables categorical (string variables always are).

@@ -58,11 +58,6 @@ HostGlobal::HostGlobal(ResourceTable& resources, std::ostream& out, std::ostream
     : m_resources(resources), m_out(out), m_err(err), m_kernel(std::make_unique<Kernel>(*this)),
       m_data(std::make_unique<Data>(*this))
 {
-    // The command modules the engine knows: the module lines settings write.
-    for (const UINT id : {12894u, 12914u, 12902u, 12933u, 12910u, 12920u})
-        if (const CString name = m_resources.GetString(id); !name.IsEmpty())
-            m_moduleNames.insert(name);
-    m_moduleNames.insert(u"REGRESS");
 }
 
 HostGlobal::~HostGlobal() = default;
@@ -70,9 +65,23 @@ HostGlobal::~HostGlobal() = default;
 int HostGlobal::ExecuteLine(const CString& line)
 {
     m_out << line.ToUtf8() << '\n';
-    if (m_moduleNames.count(line))
+    if (ModuleNames().count(line))
         m_currentModule = line;
     return 0;
+}
+
+const std::set<CString>& HostGlobal::ModuleNames()
+{
+    // The command modules the engine knows: the module lines settings
+    // write. Looked up when the first line runs, so that a run without
+    // lines needs no resources.
+    if (m_moduleNames.empty()) {
+        for (const UINT id : {12894u, 12914u, 12902u, 12933u, 12910u, 12920u})
+            if (const CString name = m_resources.GetString(id); !name.IsEmpty())
+                m_moduleNames.insert(name);
+        m_moduleNames.insert(u"REGRESS");
+    }
+    return m_moduleNames;
 }
 
 void HostGlobal::RunCommand(UINT commandId, const CString&)

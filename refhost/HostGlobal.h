@@ -90,6 +90,8 @@ private:
     class Kernel;
     class Data;
 
+    const std::set<CString>& ModuleNames();
+
     ResourceTable& m_resources;
     std::ostream& m_out;
     std::ostream& m_err;
@@ -98,7 +100,7 @@ private:
     SettingsStore m_store;
     CString m_currentModule;
     std::function<void(const CString&)> m_presenter;
-    std::set<CString> m_moduleNames;
+    std::set<CString> m_moduleNames; // see ModuleNames
     std::unique_ptr<Kernel> m_kernel;
     std::unique_ptr<Data> m_data;
     int m_commandsRun = 0;

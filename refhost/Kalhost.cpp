@@ -112,9 +112,16 @@ std::string HandlerOf(const std::vector<MenuNode>& nodes, UINT id)
 // One kalhost run: the host, its data, the module and its store.
 class Session {
 public:
-    explicit Session(const Options& options)
-        : m_options(options), m_resources(ResourceTable::LoadEmbedded()), m_host(*m_resources, std::cout, std::cerr)
+    // Commands that run dialogs or write lines have the resources parsed
+    // first, so that a broken one stops them before anything else happens;
+    // the others leave them to the first lookup.
+    enum class Parse { ResourcesFirst, ResourcesOnUse };
+
+    Session(const Options& options, Parse parse)
+        : m_options(options), m_resources(ResourceTable::Embedded()), m_host(*m_resources, std::cout, std::cerr)
     {
+        if (parse == Parse::ResourcesFirst)
+            m_resources->Load();
         KalUseRes::SetGlobalResourceHandle(m_resources.get());
         ApplyPreferences();
         OpenData();
@@ -557,10 +564,11 @@ int Run(int argc, char** argv)
             plain.noData = true;
             plain.dataFile.clear();
             plain.categorical.clear();
-            Session session(plain);
+            Session session(plain, Session::Parse::ResourcesFirst);
             return CheckOutput(DumpStore(session, options.dumpFile));
         }
-        Session session(options);
+        // `list` shows what the module says of itself: no resource is needed.
+        Session session(options, *list ? Session::Parse::ResourcesOnUse : Session::Parse::ResourcesFirst);
         HelpScope help(session, &HelpScope::Print);
         int status = kExitUsage;
         try {

@@ -154,10 +154,17 @@ MenuNode ParseMenu(const json& m, const std::string& inheritedHandler, const std
 
 std::unique_ptr<ResourceTable> ResourceTable::LoadEmbedded()
 {
-    auto table = std::make_unique<ResourceTable>();
-    for (std::size_t i = 0; i < kEmbeddedResourceCount; ++i)
-        table->AddFile(kEmbeddedResources[i].name, kEmbeddedResources[i].text);
+    auto table = Embedded();
+    table->Load();
     return table;
+}
+
+std::unique_ptr<ResourceTable> ResourceTable::Embedded()
+{
+    std::vector<ResourceFile> files;
+    for (std::size_t i = 0; i < kEmbeddedResourceCount; ++i)
+        files.push_back({kEmbeddedResources[i].name, kEmbeddedResources[i].text});
+    return std::make_unique<ResourceTable>(std::move(files));
 }
 
 std::unique_ptr<ResourceTable> ResourceTable::LoadDirectory(const std::filesystem::path& directory)
@@ -179,7 +186,26 @@ std::unique_ptr<ResourceTable> ResourceTable::LoadDirectory(const std::filesyste
     return table;
 }
 
+const ResourceTable::Tables& ResourceTable::Parsed() const
+{
+    if (!m_waiting.empty()) {
+        // Into fresh tables, kept only when every file is in.
+        Tables tables;
+        for (const ResourceFile& file : m_waiting)
+            Add(tables, file.name, file.json);
+        m_tables = std::move(tables);
+        m_waiting.clear();
+    }
+    return m_tables;
+}
+
 void ResourceTable::AddFile(const std::string& fileName, std::string_view text)
+{
+    Parsed(); // files keep their order
+    Add(m_tables, fileName, text);
+}
+
+void ResourceTable::Add(Tables& tables, const std::string& fileName, std::string_view text)
 {
     json doc;
     try {
@@ -190,11 +216,11 @@ void ResourceTable::AddFile(const std::string& fileName, std::string_view text)
     try {
         if (doc.contains("strings"))
             for (const auto& [key, value] : doc["strings"].items())
-                AddOnce(m_strings, ParseId(key, fileName), Text(value, fileName + " string " + key),
+                AddOnce(tables.strings, ParseId(key, fileName), Text(value, fileName + " string " + key),
                         fileName + " string " + key);
         if (doc.contains("messages"))
             for (const auto& [key, value] : doc["messages"].items())
-                AddOnce(m_messages, ParseId(key, fileName), Text(value, fileName + " message " + key),
+                AddOnce(tables.messages, ParseId(key, fileName), Text(value, fileName + " message " + key),
                         fileName + " message " + key);
         if (doc.contains("combos")) {
             for (const auto& combo : doc["combos"]) {
@@ -208,7 +234,7 @@ void ResourceTable::AddFile(const std::string& fileName, std::string_view text)
                     else
                         entries.push_back({Text(e, where), 0});
                 }
-                AddOnce(m_combos, std::make_pair(comboId, dialogId), std::move(entries),
+                AddOnce(tables.combos, std::make_pair(comboId, dialogId), std::move(entries),
                         where + " for dialog " + std::to_string(dialogId));
             }
         }
@@ -217,19 +243,19 @@ void ResourceTable::AddFile(const std::string& fileName, std::string_view text)
                 std::vector<UINT> buttons;
                 for (const auto& id : value)
                     buttons.push_back(static_cast<UINT>(Int(id, fileName + " radio group " + key)));
-                AddOnce(m_radios, ParseId(key, fileName), std::move(buttons), fileName + " radio group " + key);
+                AddOnce(tables.radios, ParseId(key, fileName), std::move(buttons), fileName + " radio group " + key);
             }
         }
         if (doc.contains("dialogs")) {
             for (const auto& d : doc["dialogs"]) {
                 auto t = std::make_shared<DialogTemplate>(ParseDialog(d, fileName));
                 const UINT id = t->id;
-                AddOnce(m_dialogs, id, std::move(t), fileName + " dialog " + std::to_string(id));
+                AddOnce(tables.dialogs, id, std::move(t), fileName + " dialog " + std::to_string(id));
             }
         }
         if (doc.contains("menus"))
             for (const auto& m : doc["menus"])
-                m_menus.push_back(ParseMenu(m, {}, fileName));
+                tables.menus.push_back(ParseMenu(m, {}, fileName));
     } catch (const json::exception& e) {
         throw ResourceError(fileName + ": " + e.what());
     }
@@ -237,28 +263,32 @@ void ResourceTable::AddFile(const std::string& fileName, std::string_view text)
 
 CString ResourceTable::GetString(UINT id)
 {
-    const auto it = m_strings.find(id);
-    return it == m_strings.end() ? CString() : it->second;
+    const auto& strings = Parsed().strings;
+    const auto it = strings.find(id);
+    return it == strings.end() ? CString() : it->second;
 }
 
 std::vector<KalComboEntry> ResourceTable::GetComboList(UINT comboId, UINT dialogId)
 {
-    auto it = m_combos.find({comboId, dialogId});
-    if (it == m_combos.end())
-        it = m_combos.find({comboId, 0});
-    return it == m_combos.end() ? std::vector<KalComboEntry>() : it->second;
+    const auto& combos = Parsed().combos;
+    auto it = combos.find({comboId, dialogId});
+    if (it == combos.end())
+        it = combos.find({comboId, 0});
+    return it == combos.end() ? std::vector<KalComboEntry>() : it->second;
 }
 
 std::vector<UINT> ResourceTable::GetRadioGroup(UINT groupId)
 {
-    const auto it = m_radios.find(groupId);
-    return it == m_radios.end() ? std::vector<UINT>() : it->second;
+    const auto& radios = Parsed().radios;
+    const auto it = radios.find(groupId);
+    return it == radios.end() ? std::vector<UINT>() : it->second;
 }
 
 std::shared_ptr<const DialogTemplate> ResourceTable::GetDialogTemplate(UINT id)
 {
-    const auto it = m_dialogs.find(id);
-    return it == m_dialogs.end() ? nullptr : it->second;
+    const auto& dialogs = Parsed().dialogs;
+    const auto it = dialogs.find(id);
+    return it == dialogs.end() ? nullptr : it->second;
 }
 
 std::string ResourceTable::GetHelpTopic(UINT id) const
@@ -272,22 +302,24 @@ std::string ResourceTable::GetHelpTopic(UINT id) const
         }
         return std::string();
     };
-    return find(m_menus);
+    return find(Parsed().menus);
 }
 
 std::vector<UINT> ResourceTable::GetDialogIds() const
 {
+    const auto& dialogs = Parsed().dialogs;
     std::vector<UINT> ids;
-    ids.reserve(m_dialogs.size());
-    for (const auto& [id, dialog] : m_dialogs)
+    ids.reserve(dialogs.size());
+    for (const auto& [id, dialog] : dialogs)
         ids.push_back(id);
     return ids;
 }
 
 CString ResourceTable::GetMessageText(UINT id) const
 {
-    const auto it = m_messages.find(id);
-    return it == m_messages.end() ? CString() : it->second;
+    const auto& messages = Parsed().messages;
+    const auto it = messages.find(id);
+    return it == messages.end() ? CString() : it->second;
 }
 
 } // namespace kalhost

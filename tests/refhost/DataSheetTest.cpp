@@ -206,3 +206,21 @@ TEST(CsvSheet, RowsAcrossTheEndOfAReadBlock)
     EXPECT_EQ(Refusal(across("3,4,5\n", 3)),
               "t.csv line " + line + ", column 3: more values than the header names variables (2)");
 }
+
+// The sample is built without reading its CSV text; reading it must give
+// the same sheet.
+TEST(CsvSheet, TheBuiltInSampleIsItsCsvTextAsRead)
+{
+    std::istringstream in(DataSheet::SampleCsv());
+    DataSheet read = DataSheet::LoadCsv(in, "built-in sample");
+    read.MarkCategorical({"A"});
+    DataSheet built = DataSheet::Sample();
+    EXPECT_EQ(built.Source(), read.Source());
+    EXPECT_EQ(built.CaseCount(), read.CaseCount());
+    EXPECT_EQ(built.GetCategoricalIndexes(), read.GetCategoricalIndexes());
+    ASSERT_EQ(built.GetVariableCount(), read.GetVariableCount());
+    for (int i = 0; i < read.GetVariableCount(); ++i) {
+        EXPECT_EQ(built.GetVariableName(i, 1), read.GetVariableName(i, 1)) << i;
+        EXPECT_EQ(built.GetVariableType(i), read.GetVariableType(i)) << i;
+    }
+}

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 using kalhost::ResourceError;
 using kalhost::ResourceTable;
 
@@ -55,4 +57,61 @@ TEST(Resources, MalformedFilesNameTheFileAndTheProblem)
             EXPECT_NE(what.find(reason), std::string::npos) << what;
         }
     }
+}
+
+// A table that parses its files at the first lookup answers and fails as
+// one that was given them one by one.
+TEST(Resources, FilesParsedAtTheFirstLookupFailAsFilesAddedAtOnce)
+{
+    const std::string good = R"({"strings": {"1": "one"}, "messages": {"9": "nine"},
+                                  "menus": [{"text": "M", "items": [{"text": "X", "id": 5, "handler": "H",
+                                                                    "help": "a.md#x"}]}]})";
+    const std::string clash = R"({"strings": {"1": "uno"}})";
+    std::string eager;
+    try {
+        ResourceTable table;
+        table.AddFile("good.json", good);
+        table.AddFile("clash.json", clash);
+    } catch (const ResourceError& e) {
+        eager = e.what();
+    }
+    ASSERT_NE(eager.find("clash.json string 1: defined twice"), std::string::npos) << eager;
+
+    const std::vector<std::function<void(ResourceTable&)>> lookups = {
+        [](ResourceTable& t) { t.GetString(1); },
+        [](ResourceTable& t) { t.GetMessageText(9); },
+        [](ResourceTable& t) { t.GetMenuBar(); },
+        [](ResourceTable& t) { t.GetHelpTopic(5); },
+        [](ResourceTable& t) { t.GetDialogTemplate(1); },
+        [](ResourceTable& t) { t.GetDialogIds(); },
+        [](ResourceTable& t) { t.GetComboList(1, 1); },
+        [](ResourceTable& t) { t.GetRadioGroup(1); },
+        [](ResourceTable& t) { t.Load(); },
+        [](ResourceTable& t) { t.AddFile("more.json", "{}"); },
+    };
+    for (std::size_t i = 0; i < lookups.size(); ++i) {
+        ResourceTable lazy({{"good.json", good}, {"clash.json", clash}}); // nothing parsed yet
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            try {
+                lookups[i](lazy);
+                ADD_FAILURE() << "lookup " << i << " succeeded";
+            } catch (const ResourceError& e) {
+                EXPECT_EQ(e.what(), eager) << "lookup " << i << ", attempt " << attempt;
+            }
+        }
+    }
+
+    ResourceTable lazy({{"good.json", good}});
+    EXPECT_EQ(lazy.GetString(1), CString(u"one"));
+    EXPECT_EQ(lazy.GetMessageText(9), CString(u"nine"));
+    EXPECT_EQ(lazy.GetHelpTopic(5), "a.md#x");
+    // A file added later comes after the waiting ones.
+    try {
+        ResourceTable later({{"good.json", good}});
+        later.AddFile("clash.json", clash);
+        ADD_FAILURE() << "the clash went unnoticed";
+    } catch (const ResourceError& e) {
+        EXPECT_EQ(e.what(), eager);
+    }
+    EXPECT_EQ(ResourceTable::Embedded()->GetDialogIds(), ResourceTable::LoadEmbedded()->GetDialogIds());
 }
