@@ -5,14 +5,17 @@
 #include "platform/CString.h"
 #include "platform/Exceptions.h"
 
+#include <utility>
 #include <vector>
 
 class CCmdInfo {
 public:
     CCmdInfo() = default;
-    explicit CCmdInfo(const CString& text, int kind = 0) : m_strCommand(text), m_nKind(kind) {}
+    explicit CCmdInfo(CString text, int kind = 0) : m_strCommand(std::move(text)), m_nKind(kind) {}
     CCmdInfo(const CCmdInfo&) = default;
+    CCmdInfo(CCmdInfo&&) noexcept = default;
     CCmdInfo& operator=(const CCmdInfo&) = default;
+    CCmdInfo& operator=(CCmdInfo&&) noexcept = default;
     virtual ~CCmdInfo() = default;
 
     CString m_strCommand;
@@ -27,6 +30,7 @@ public:
     int GetCount() const { return static_cast<int>(m_items.size()); }
     bool IsEmpty() const { return m_items.empty(); }
     void AddTail(const T& item) { m_items.push_back(item); }
+    void AddTail(T&& item) { m_items.push_back(std::move(item)); }
     void InsertAt(int index, const T& item)
     {
         if (index < 0 || index > GetCount())
@@ -57,5 +61,6 @@ using CCommandList = CLIST<CCmdInfo>;
 
 // Appends `text` as a new line unless it is empty. A text holding a control
 // character is refused with an assertion report: no input may ever split a
-// command into two lines.
-void AppendCommandLine(CLIST<CCmdInfo>& list, const CString& text);
+// command into two lines. A line passed with std::move goes into the list
+// as it is.
+void AppendCommandLine(CLIST<CCmdInfo>& list, CString text);

@@ -3,20 +3,82 @@
 #include "host/KalAssertDlg.h"
 #include "platform/TextIndex.h"
 
+#include <algorithm>
+#include <array>
 #include <unordered_set>
 
 IMPLEMENT_DYNAMIC(CGUIBaseObj, CObject)
 
 namespace {
 
-bool IsAsciiLetter(char16_t ch)
+constexpr bool IsAsciiLetter(char16_t ch)
 {
     return (ch >= u'a' && ch <= u'z') || (ch >= u'A' && ch <= u'Z');
 }
 
-bool IsDigit(char16_t ch)
+constexpr bool IsDigit(char16_t ch)
 {
     return ch >= u'0' && ch <= u'9';
+}
+
+// What each ASCII code unit is to a name written into a line: a unit of a
+// plain identifier (letter, digit, '_', '.'), a control character, a quote.
+// Other units are none of these.
+enum : unsigned char { kWordUnit = 1, kControlUnit = 2, kQuoteUnit = 4 };
+
+constexpr auto kUnitClass = [] {
+    std::array<unsigned char, 128> table{};
+    for (char16_t ch = 0; ch < 128; ++ch) {
+        if (IsAsciiLetter(ch) || IsDigit(ch) || ch == u'_' || ch == u'.')
+            table[ch] = kWordUnit;
+        else if (ch < 0x20 || ch == 0x7F)
+            table[ch] = kControlUnit;
+    }
+    table[u'\''] = kQuoteUnit;
+    return table;
+}();
+
+// What writing a name needs to know, found in one scan of it.
+struct NameScan {
+    bool control = false; // holds a control character: never written
+    bool quote = false;   // holds a single quote, doubled when written
+    bool plain = false;   // a plain identifier: written as it is
+};
+
+// Inline: it runs once per name of a line.
+inline NameScan ScanName(std::u16string_view name)
+{
+    // A final '$' may follow a plain identifier; it is neither a control
+    // character nor a quote, so the scan can stop before it.
+    const std::size_t body = name.size() - (!name.empty() && name.back() == u'$' ? 1 : 0);
+    unsigned all = kWordUnit;
+    unsigned any = 0;
+    for (const char16_t ch : name.substr(0, body)) {
+        const unsigned unit = ch < 128 ? kUnitClass[ch] : 0;
+        all &= unit;
+        any |= unit;
+    }
+    NameScan scan;
+    scan.control = any & kControlUnit;
+    scan.quote = any & kQuoteUnit;
+    scan.plain = body > 0 && (all & kWordUnit) && !IsDigit(name[0]) && name[0] != u'.';
+    return scan;
+}
+
+// Appends `name` in single quotes, its own quotes doubled.
+void AppendQuoted(std::u16string& text, std::u16string_view name, bool quote)
+{
+    text += u'\'';
+    if (!quote) {
+        text += name;
+    } else {
+        for (const char16_t ch : name) {
+            text += ch;
+            if (ch == u'\'')
+                text += ch;
+        }
+    }
+    text += u'\'';
 }
 
 // A text as a report shows it: control characters as escapes, so that the
@@ -294,47 +356,61 @@ CString CGUIBaseObj::GetModuleCommand(unsigned int id) const
 
 bool CGUIBaseObj::IsPlainIdentifier(const CString& name)
 {
-    const int n = name.GetLength();
-    if (n == 0 || !(IsAsciiLetter(name[0]) || name[0] == u'_'))
-        return false;
-    for (int i = 1; i < n; ++i) {
-        const char16_t ch = name[i];
-        if (ch == u'$' && i == n - 1)
-            return true;
-        if (!(IsAsciiLetter(ch) || IsDigit(ch) || ch == u'_' || ch == u'.'))
-            return false;
-    }
-    return true;
+    return ScanName(name).plain;
 }
 
 CString CGUIBaseObj::QuoteName(const CString& name)
 {
-    if (IsPlainIdentifier(name))
+    const NameScan scan = ScanName(name);
+    if (scan.plain)
         return name;
-    CString quoted = name;
-    quoted.Replace(u"'", u"''");
-    return u"'" + quoted + u"'";
+    std::u16string quoted;
+    quoted.reserve(static_cast<std::size_t>(name.GetLength()) + 2);
+    AppendQuoted(quoted, name, scan.quote);
+    return CString(std::move(quoted));
 }
 
 void CGUIBaseObj::AddVariables(CString& line, const CGUIArray<CGUIDataVariable>& list, const CString& separator) const
 {
+    if (list.IsEmpty())
+        return;
+    // The line is built on as a plain string and put back. Its room: every
+    // name quoted and as long as the longest of a few spread over the list
+    // (names of a sheet tend to be alike, numbered ones longest at the end);
+    // a line that needs more grows by doubling.
+    const std::u16string_view joiner = separator;
+    const std::size_t count = static_cast<std::size_t>(list.GetSize());
+    constexpr std::size_t kSamples = 8;
+    std::size_t longest = 0;
+    for (std::size_t k = 0; k < kSamples; ++k) {
+        const auto& sample = list.begin()[static_cast<std::ptrdiff_t>(k * (count - 1) / (kSamples - 1))];
+        longest = std::max(longest, sample.GetVariableName().Str().size());
+    }
+    std::u16string text = line.TakeText();
+    text.reserve(text.size() + (longest + 2 + joiner.size()) * count);
     bool first = true;
     for (const auto& v : list) {
-        const CString& name = v.GetVariableName();
-        if (name.IsEmpty())
+        const std::u16string_view name = v.GetVariableName();
+        if (name.empty())
             continue; // an entry whose name was not stored names no variable
-        if (ContainsControlCharacter(name)) {
+        const NameScan scan = ScanName(name);
+        if (scan.control) {
             // Such a name could start a second command line: leave it out.
             CKalAssertDlg("framework/GUIBaseObj", __LINE__,
-                          "the variable \"" + Shown(name) + "\" holds a control character and is left out")
+                          "the variable \"" + Shown(v.GetVariableName()) +
+                              "\" holds a control character and is left out")
                 .DoPrint();
             continue;
         }
         if (!first)
-            line += separator;
-        line += QuoteName(name);
+            text += joiner;
         first = false;
+        if (scan.plain)
+            text += name;
+        else
+            AppendQuoted(text, name, scan.quote);
     }
+    line = CString(std::move(text));
 }
 
 CString CGUIBaseObj::GetMixedDataVariable(const CGUIArray<CGUIDataVariable>& list, const CString& joiner) const
@@ -404,7 +480,7 @@ void CGUIBaseObj::AddSaveCmd(const CString& fileName, CLIST<CCmdInfo>& list, con
     AppendCommandLine(list, line);
 }
 
-void AppendCommandLine(CLIST<CCmdInfo>& list, const CString& text)
+void AppendCommandLine(CLIST<CCmdInfo>& list, CString text)
 {
     if (text.IsEmpty())
         return;
@@ -412,5 +488,5 @@ void AppendCommandLine(CLIST<CCmdInfo>& list, const CString& text)
         CKalAssertDlg("framework/CmdInfo", __LINE__).DoPrint();
         return;
     }
-    list.AddTail(CCmdInfo(text, 0));
+    list.AddTail(CCmdInfo(std::move(text), 0));
 }

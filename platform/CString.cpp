@@ -56,7 +56,7 @@ void CString::Free(Rep* rep) noexcept
     delete rep;
 }
 
-std::u16string& CString::Mutable()
+std::u16string& CString::Unshare()
 {
     if (!m_rep) {
         m_rep = new Rep{1, {}};
@@ -66,6 +66,13 @@ std::u16string& CString::Mutable()
         m_rep = own;
     }
     return m_rep->text;
+}
+
+std::u16string CString::TakeText()
+{
+    std::u16string text = m_rep && m_rep->refs == 1 ? std::move(m_rep->text) : Str();
+    Release();
+    return text;
 }
 
 CString CString::FromUtf8(std::string_view utf8)
@@ -296,5 +303,17 @@ CString CString::FromNumber(double value, char16_t decimalSeparator)
 
 bool ContainsControlCharacter(const CString& text)
 {
-    return std::any_of(text.Str().begin(), text.Str().end(), [](char16_t ch) { return ch < 0x20 || ch == 0x7F; });
+    const auto control = [](char16_t ch) { return ch < 0x20 || ch == 0x7F; };
+    // Whole command lines of a million names come through here: blocks
+    // tested without an exit inside let the compiler test many units at once.
+    constexpr std::size_t kBlock = 64;
+    std::u16string_view rest = text;
+    for (; rest.size() >= kBlock; rest.remove_prefix(kBlock)) {
+        unsigned short found = 0;
+        for (std::size_t i = 0; i < kBlock; ++i)
+            found |= static_cast<unsigned short>(control(rest[i]));
+        if (found)
+            return true;
+    }
+    return std::any_of(rest.begin(), rest.end(), control);
 }

@@ -121,6 +121,9 @@ public:
     }
     // Room for `length` units, so that a line built piece by piece grows once.
     void Reserve(int length) { Mutable().reserve(static_cast<std::size_t>(length > 0 ? length : 0)); }
+    // The text as a string of its own to build on, this string left empty:
+    // moved out, not copied, unless another string shares it.
+    std::u16string TakeText();
 
     friend CString operator+(CString a, const CString& b) { a += b; return a; }
     friend CString operator+(CString a, const char16_t* b) { a += b; return a; }
@@ -142,7 +145,10 @@ private:
 
     static const std::u16string& EmptyText();
     // The text to change: this string's own buffer, copied first when shared.
-    std::u16string& Mutable();
+    // Inline for the common case of a buffer of its own, as appends take it
+    // once per piece.
+    std::u16string& Mutable() { return m_rep && m_rep->refs == 1 ? m_rep->text : Unshare(); }
+    std::u16string& Unshare();
     void Release() noexcept
     {
         if (m_rep && --m_rep->refs == 0)

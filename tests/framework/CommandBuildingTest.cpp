@@ -88,6 +88,53 @@ TEST_F(CommandBuilding, NamesWithControlCharactersAreLeftOutAndReported)
     EXPECT_EQ(list.GetCount(), 0);
 }
 
+TEST_F(CommandBuilding, NamesAreQuotedByEveryUnitTheyHold)
+{
+    EXPECT_EQ(CGUIBaseObj::QuoteName(u"a$"), CString(u"a$"));
+    EXPECT_EQ(CGUIBaseObj::QuoteName(u"_"), CString(u"_"));
+    EXPECT_EQ(CGUIBaseObj::QuoteName(u"$"), CString(u"'$'"));
+    EXPECT_EQ(CGUIBaseObj::QuoteName(u"a$$"), CString(u"'a$$'"));
+    EXPECT_EQ(CGUIBaseObj::QuoteName(u"a$b"), CString(u"'a$b'"));
+    EXPECT_EQ(CGUIBaseObj::QuoteName(u".5"), CString(u"'.5'"));
+    EXPECT_EQ(CGUIBaseObj::QuoteName(u"gr\u00F6\u00DFe"), CString(u"'gr\u00F6\u00DFe'"));
+    EXPECT_EQ(CGUIBaseObj::QuoteName(u"''"), CString(u"''''''"));
+}
+
+TEST_F(CommandBuilding, LongListsStayJoinedAroundLeftOutNamesAndOutgrowTheirRoom)
+{
+    // Most names are quoted and hold quotes of their own, so that they take
+    // more room written than any name of the list suggests; names with
+    // control characters come first, in the middle and last.
+    CGUIArray<CGUIDataVariable> list;
+    const auto add = [&list](const std::u16string& name) {
+        list.Add(CGUIDataVariable(CString(name), NmsEnum::VT_NUMERIC));
+    };
+    add(u"first\tbad");
+    std::u16string expected = u"MODEL Y = ";
+    for (int i = 0; i < 2000; ++i) {
+        if (i == 1000)
+            add(u"middle\nbad");
+        const std::u16string n = CString::FromNumber(i).Str();
+        add(i % 10 == 0 ? u"V" + n : u"it's '" + n + u"'");
+        expected += (i > 0 ? u"+" : u"") + (i % 10 == 0 ? u"V" + n : u"'it''s ''" + n + u"'''");
+    }
+    add(u"last\u007Fbad");
+
+    AssertionCapture capture;
+    CString line(u"MODEL Y = ");
+    const CString before = line;
+    settings.AddVariables(line, list, u"+");
+    EXPECT_EQ(line.Str(), expected);
+    EXPECT_EQ(before, CString(u"MODEL Y = ")); // shared with the line until it grew
+    EXPECT_EQ(capture.reports.size(), 3u);
+
+    // The line goes into the list as it is, not copied.
+    CLIST<CCmdInfo> lines;
+    const CString written = line;
+    AppendCommandLine(lines, std::move(line));
+    EXPECT_TRUE(lines.GetTail().m_strCommand.SharesBufferWith(written));
+}
+
 TEST_F(CommandBuilding, ValueClausesFollowTheDefaultAndTheWriteAllPreference)
 {
     const CGUIData<int> iterations(20);

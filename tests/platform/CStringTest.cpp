@@ -58,6 +58,18 @@ TEST(CStringText, ControlCharactersAreDetected)
     EXPECT_TRUE(ContainsControlCharacter(CString(u"tab\there")));
     EXPECT_TRUE(ContainsControlCharacter(CString(std::u16string(u"nul\0x", 5))));
     EXPECT_TRUE(ContainsControlCharacter(CString(u"del\u007F")));
+
+    // Long texts are tested in blocks: a control character is found at
+    // either edge of a block and in the rest after the last whole one.
+    const std::u16string plain(200, u'a');
+    EXPECT_FALSE(ContainsControlCharacter(CString(plain + u" ~\u0080\u00FF")));
+    for (const std::size_t at : {0, 63, 64, 127, 128, 191, 192, 199}) {
+        for (const char16_t control : {u'\x01', u'\x1F', u'\x7F'}) {
+            std::u16string text = plain;
+            text[at] = control;
+            EXPECT_TRUE(ContainsControlCharacter(CString(text))) << at;
+        }
+    }
 }
 
 TEST(CStringSharing, CopiesShareTheBufferUntilOneOfThemChanges)
@@ -71,6 +83,7 @@ TEST(CStringSharing, CopiesShareTheBufferUntilOneOfThemChanges)
         [](CString& s) { s.Replace(u" ", u"_"); }, [](CString& s) { s.Remove(u'e'); },
         [](CString& s) { s.TrimLeft(u'd'); },  [](CString& s) { s.MakeUpper(); },
         [](CString& s) { s.Empty(); },         [](CString& s) { s = CString(u"x"); },
+        [](CString& s) { EXPECT_EQ(s.TakeText(), u"dose level"); },
     };
     for (const auto& edit : edits) {
         CString changed = name;
@@ -94,4 +107,10 @@ TEST(CStringSharing, CopiesShareTheBufferUntilOneOfThemChanges)
     EXPECT_TRUE(moved.SharesBufferWith(name));
     EXPECT_TRUE(copy.IsEmpty()); // NOLINT(bugprone-use-after-move): a moved-from string is empty
     EXPECT_FALSE(CString().SharesBufferWith(CString()));
+
+    // A string of its own gives its text away and is left empty.
+    CString own(u"COVAR ");
+    EXPECT_EQ(own.TakeText(), u"COVAR ");
+    EXPECT_TRUE(own.IsEmpty());
+    EXPECT_EQ(CString().TakeText(), u"");
 }
