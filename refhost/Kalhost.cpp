@@ -478,7 +478,7 @@ std::string SubcommandWord(int argc, char** argv)
     static const std::set<std::string> takesValue = {"--data", "--categorical", "--store", "--module-state",
                                                      "--decimal", "--module"};
     for (int i = 1; i < argc; ++i) {
-        const std::string arg = argv[i];
+        std::string arg = argv[i];
         if (arg.empty() || arg[0] != '-')
             return arg;
         if (takesValue.count(arg))

@@ -98,7 +98,7 @@ DialogTemplate ParseDialog(const json& d, const std::string& where)
     t.id = static_cast<UINT>(Int(d.at("id"), where));
     const std::string here = where + " dialog " + std::to_string(t.id);
     t.caption = d.contains("caption") ? Text(d["caption"], here) : CString();
-    const auto size = d.at("size");
+    const auto& size = d.at("size");
     if (!size.is_array() || size.size() != 2)
         throw ResourceError(here + ": \"size\" must be [width, height]");
     t.cx = Int(size[0], here);
