@@ -86,4 +86,26 @@ protected:
     CDialog* open = nullptr; // the dialog Open is running
 };
 
+// Types each bad text (not a number, negative, `outOfRange`, empty) into
+// edit `id` of page `page`, turns to page `elsewhere` and presses OK: the
+// dialog stays open, back on the edit. Then the edit's own text passes.
+inline void ExpectEditRefusesBadEntries(CHeadlessSession& s, int page, UINT id, const std::u16string& outOfRange,
+                                        int elsewhere)
+{
+    s.Page(page);
+    const CString good = s.Text(id);
+    for (const std::u16string& text : {std::u16string(u"abc"), std::u16string(u"-1"), outOfRange, std::u16string()}) {
+        s.Page(page);
+        ASSERT_TRUE(s.Type(id, text));
+        s.Page(elsewhere); // OK brings the page back
+        s.Ok();
+        ASSERT_TRUE(s.IsOpen());
+        EXPECT_EQ(s.Dialog().GetFocusCtrl(), &s.Find(id));
+    }
+    s.Page(page);
+    s.Type(id, good);
+    s.Ok();
+    EXPECT_FALSE(s.IsOpen());
+}
+
 } // namespace kaltest

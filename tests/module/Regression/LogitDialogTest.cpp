@@ -246,21 +246,7 @@ TEST_F(LogitDialog, EveryNumericEditRefusesBadEntriesAndKeepsTheFocus)
                 s.Page(kDeciles);
                 s.Check(Deciles::IDC_DECILES, 1);
             }
-            s.Page(e.page);
-            const CString good = s.Text(e.id);
-            for (const std::u16string& text :
-                 {std::u16string(u"abc"), std::u16string(u"-1"), e.outOfRange, std::u16string()}) {
-                s.Page(e.page);
-                ASSERT_TRUE(s.Type(e.id, text));
-                s.Page(e.page == kCategories ? kModel : kCategories); // OK brings the page back
-                s.Ok();
-                ASSERT_TRUE(s.IsOpen());
-                EXPECT_EQ(s.Dialog().GetFocusCtrl(), &s.Find(e.id));
-            }
-            s.Page(e.page);
-            s.Type(e.id, good);
-            s.Ok();
-            EXPECT_FALSE(s.IsOpen());
+            ExpectEditRefusesBadEntries(s, e.page, e.id, e.outOfRange, e.page == kCategories ? kModel : kCategories);
         });
         EXPECT_EQ(result, IDOK);
         EXPECT_EQ(host.messages, e.messages);

@@ -241,21 +241,7 @@ TEST_F(RegressionDialog, EveryNumericEditRefusesBadEntriesAndKeepsTheFocus)
                 s.Check(Predict::IDC_PREDICT, 1);
                 s.Type(Predict::IDC_USE_EDIT, u"new cases.kvd"); // a prediction needs its file
             }
-            s.Page(e.page);
-            const CString good = s.Text(e.id);
-            for (const std::u16string& text : {std::u16string(u"abc"), std::u16string(u"-1"), e.outOfRange,
-                                               std::u16string()}) {
-                s.Page(e.page);
-                ASSERT_TRUE(s.Type(e.id, text));
-                s.Page(e.page == kModel ? kEstimation : kModel); // OK brings the page back
-                s.Ok();
-                ASSERT_TRUE(s.IsOpen());
-                EXPECT_EQ(s.Dialog().GetFocusCtrl(), &s.Find(e.id));
-            }
-            s.Page(e.page);
-            s.Type(e.id, good);
-            s.Ok();
-            EXPECT_FALSE(s.IsOpen());
+            ExpectEditRefusesBadEntries(s, e.page, e.id, e.outOfRange, e.page == kModel ? kEstimation : kModel);
         });
         EXPECT_EQ(result, IDOK);
         EXPECT_EQ(host.messages, e.messages);
