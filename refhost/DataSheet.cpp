@@ -11,6 +11,7 @@
 #include <cstring>
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <sstream>
 
 namespace kalhost {
@@ -190,16 +191,19 @@ public:
     {
         if (csv_init(&m_parser, CSV_STRICT | CSV_STRICT_FINI | CSV_APPEND_NULL) != 0)
             throw DataError(m_name + ": cannot set up the CSV reader");
-        std::vector<char> buffer(kCsvReadBlock);
+        // Left uninitialised: only the pages a read fills are ever touched,
+        // so a small file costs no more than its size.
+        std::size_t capacity = kCsvReadBlock;
+        auto buffer = std::make_unique_for_overwrite<char[]>(capacity);
         std::size_t begin = 0;
         std::size_t end = 0;
         bool eof = false;
         while (m_error.empty()) {
-            const char* first = buffer.data() + begin;
+            const char* first = buffer.get() + begin;
             const auto* newline = static_cast<const char*>(std::memchr(first, '\n', end - begin));
             if (newline) {
                 Line({first, static_cast<std::size_t>(newline - first)});
-                begin = static_cast<std::size_t>(newline - buffer.data()) + 1;
+                begin = static_cast<std::size_t>(newline - buffer.get()) + 1;
                 continue;
             }
             if (eof) {
@@ -208,12 +212,17 @@ public:
                 break;
             }
             // Keep the unfinished line, make room, read the next block.
-            std::memmove(buffer.data(), first, end - begin);
             end -= begin;
+            if (end == capacity) {
+                auto larger = std::make_unique_for_overwrite<char[]>(2 * capacity);
+                std::memcpy(larger.get(), first, end);
+                buffer = std::move(larger);
+                capacity *= 2;
+            } else {
+                std::memmove(buffer.get(), first, end);
+            }
             begin = 0;
-            if (end == buffer.size())
-                buffer.resize(buffer.size() * 2);
-            in.read(buffer.data() + end, static_cast<std::streamsize>(buffer.size() - end));
+            in.read(buffer.get() + end, static_cast<std::streamsize>(capacity - end));
             end += static_cast<std::size_t>(in.gcount());
             eof = !in;
         }

@@ -102,20 +102,22 @@ TEST(CsvSheet, ByteOrderMarksOtherDelimitersAndTheEncoding)
 
 TEST(CsvSheet, LongLinesAndManyColumnsCrossTheReadBlocks)
 {
+    // The header alone is longer than a read block, so the block must grow.
     std::string csv;
-    for (int c = 0; c < 60000; ++c)
+    for (int c = 0; c < 100000; ++c)
         csv += (c ? "," : "") + std::string("variable_") + std::to_string(c);
     csv += '\n';
+    ASSERT_GT(csv.size(), kalhost::kCsvReadBlock);
     for (int r = 0; r < 3; ++r) {
-        for (int c = 0; c < 60000; ++c)
-            csv += (c ? "," : "") + std::to_string(r * c % 97) + (c == 59999 && r == 2 ? "x" : "");
+        for (int c = 0; c < 100000; ++c)
+            csv += (c ? "," : "") + std::to_string(r * c % 97) + (c == 99999 && r == 2 ? "x" : "");
         csv += "\r\n";
     }
     DataSheet sheet = Load(csv);
-    EXPECT_EQ(sheet.GetVariableCount(), 60000);
+    EXPECT_EQ(sheet.GetVariableCount(), 100000);
     EXPECT_EQ(sheet.CaseCount(), 3u);
-    EXPECT_EQ(sheet.GetVariableType(59998), NmsEnum::VT_NUMERIC);
-    EXPECT_EQ(sheet.GetVariableType(59999), NmsEnum::VT_STRING);
+    EXPECT_EQ(sheet.GetVariableType(99998), NmsEnum::VT_NUMERIC);
+    EXPECT_EQ(sheet.GetVariableType(99999), NmsEnum::VT_STRING);
 }
 
 TEST(CsvSheet, TheBuiltInSampleIsADesignedExperiment)
