@@ -3,8 +3,8 @@
 // or hang.
 #include "Msg/AnalysisofVarianceMsg.h"
 #include "Source/DlgStat2.h"
-#include "refhost/ActionScript.h"
 #include "platform/Diagnostics.h"
+#include "refhost/ActionScript.h"
 #include "refhost/HostGlobal.h"
 
 #include <cstdint>
@@ -14,8 +14,7 @@ namespace {
 
 // Everything a run needs, made once: resources, host, module, driver.
 struct Harness {
-    Harness()
-        : resources(kalhost::ResourceTable::LoadEmbedded()), host(*resources, out, out)
+    Harness() : resources(kalhost::ResourceTable::LoadEmbedded()), host(*resources, out, out)
     {
         KalUseRes::SetGlobalResourceHandle(resources.get());
         host.SetDataSheet(std::make_unique<kalhost::DataSheet>(kalhost::DataSheet::Sample()));
@@ -46,13 +45,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // Each script starts from fresh settings.
     harness.host.Store().Clear();
     harness.out.str({});
-    kalhost::ScriptRunner runner(
-        std::move(lines),
-        [](UINT id) {
-            if (id == 2008)
-                harness.module->GetAnalysisofVarianceMsg()->OnKVCommand(id);
-        },
-        true);
+    kalhost::ScriptRunner runner(std::move(lines), true, [](UINT id) {
+        if (id == 2008)
+            harness.module->GetAnalysisofVarianceMsg()->OnKVCommand(id);
+    });
     harness.driver.SetScript([&runner](CHeadlessSession& s) { runner.RunDialog(s); });
     runner.RunAll();
     return 0;

@@ -70,7 +70,12 @@ std::u16string& CString::Unshare()
 
 std::u16string CString::TakeText()
 {
-    std::u16string text = m_rep && m_rep->refs == 1 ? std::move(m_rep->text) : Str();
+    // The sole owner's text moves out; a shared text is copied.
+    std::u16string text;
+    if (m_rep && m_rep->refs == 1)
+        text = std::move(m_rep->text);
+    else
+        text = Str();
     Release();
     return text;
 }
@@ -82,7 +87,11 @@ CString CString::FromUtf8(std::string_view utf8)
     std::size_t i = 0;
     while (i < utf8.size()) {
         const auto lead = static_cast<unsigned char>(utf8[i]);
-        const int extra = lead < 0x80 ? 0 : (lead >> 5) == 0x6 ? 1 : (lead >> 4) == 0xE ? 2 : (lead >> 3) == 0x1E ? 3 : -1;
+        const int extra = lead < 0x80           ? 0
+                          : (lead >> 5) == 0x6  ? 1
+                          : (lead >> 4) == 0xE  ? 2
+                          : (lead >> 3) == 0x1E ? 3
+                                                : -1;
         char32_t cp = 0;
         bool ok = extra >= 0 && i + static_cast<std::size_t>(extra) < utf8.size();
         if (ok) {

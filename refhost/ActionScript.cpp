@@ -125,9 +125,10 @@ int Flag(const std::string& text, std::size_t line)
     return static_cast<int>(Number(text, line, "the state", 0, 1));
 }
 
-const std::map<std::string, HCURSOR, std::less<>> kCursors = {
-    {"NONE", CursorShape::Arrow}, {"DROP", CursorShape::Drop}, {"NODROP", CursorShape::NoDrop},
-    {"REMOVE", CursorShape::Remove}};
+const std::map<std::string, HCURSOR, std::less<>> kCursors = {{"NONE", CursorShape::Arrow},
+                                                              {"DROP", CursorShape::Drop},
+                                                              {"NODROP", CursorShape::NoDrop},
+                                                              {"REMOVE", CursorShape::Remove}};
 
 std::string CursorName(HCURSOR cursor)
 {
@@ -236,7 +237,8 @@ std::vector<ScriptLine> ParseScript(std::string_view text)
         else if (v == "choose")
             Id(a[0], number), Number(a[1], number, "the index", 0, 0x7FFFFFFF);
         else if (v == "cell")
-            Id(a[0], number), Number(a[1], number, "the row", 1, 0x7FFFFFFF), Number(a[2], number, "the column", 1, 0x7FFFFFFF);
+            Id(a[0], number), Number(a[1], number, "the row", 1, 0x7FFFFFFF),
+                Number(a[2], number, "the column", 1, 0x7FFFFFFF);
         else if (v == "drag" || v == "menu")
             Id(a[0], number), Id(a[1], number);
         else if (v == "expect") {
@@ -255,7 +257,7 @@ std::vector<ScriptLine> ParseScript(std::string_view text)
     return lines;
 }
 
-ScriptRunner::ScriptRunner(std::vector<ScriptLine> lines, OpenCommand open, bool allowOpen)
+ScriptRunner::ScriptRunner(std::vector<ScriptLine> lines, bool allowOpen, OpenCommand open)
     : m_lines(std::move(lines)), m_open(std::move(open)), m_allowOpen(allowOpen)
 {
 }
@@ -271,7 +273,8 @@ void ScriptRunner::RunAll()
     while (m_next < m_lines.size() && !Failed()) {
         const ScriptLine& line = m_lines[m_next++];
         if (line.verb != "open") {
-            Fail(Outcome::BadLine, "line " + std::to_string(line.number) + ": \"" + line.verb + "\" with no dialog open");
+            Fail(Outcome::BadLine,
+                 "line " + std::to_string(line.number) + ": \"" + line.verb + "\" with no dialog open");
             return;
         }
         if (!m_allowOpen) {

@@ -48,7 +48,7 @@ public:
 
     enum class Outcome { NoDialog, Confirmed, NotConfirmed, BadLine, ExpectFailed };
 
-    ScriptRunner(std::vector<ScriptLine> lines, OpenCommand open, bool allowOpen);
+    ScriptRunner(std::vector<ScriptLine> lines, bool allowOpen, OpenCommand open);
 
     // Runs a play script from its first line.
     void RunAll();

@@ -19,9 +19,9 @@
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
+#include <functional>
 #include <iomanip>
 #include <iostream>
-#include <functional>
 #include <optional>
 #include <set>
 #include <sstream>
@@ -181,7 +181,8 @@ private:
             const CString separator = CString::FromUtf8(m_options.decimal);
             if (separator.GetLength() != 1 || !IsDecimalSeparator(separator[0]))
                 throw UsageError("--decimal takes one punctuation character that the command language does not "
-                                 "use otherwise (such as , or .), not \"" + m_options.decimal + "\"");
+                                 "use otherwise (such as , or .), not \"" +
+                                 m_options.decimal + "\"");
             p.decimalSeparator = separator[0];
         }
         if (!m_options.moduleState.empty())
@@ -249,7 +250,8 @@ int ListCommands(Session& session)
     std::cout.flush();
     session.Module().Module().PrintModuleInfo();
     std::cout << std::left << std::setw(6) << "id" << std::setw(28) << "handler" << std::setw(48) << "dialog"
-              << std::setw(48) << "settings" << "status\n";
+              << std::setw(48) << "settings"
+              << "status\n";
     for (const auto& c : session.Module().Commands())
         std::cout << std::left << std::setw(6) << c.id << std::setw(28) << c.handler << std::setw(48) << c.dialogClass
                   << std::setw(48) << c.settingsClass << (c.available ? "available" : "not available") << '\n';
@@ -317,7 +319,7 @@ int RunOpen(Session& session, const Options& options, CDialogDriver& driver,
 {
     std::optional<ScriptRunner> runner;
     if (!options.actionsFile.empty()) {
-        runner.emplace(ParseScriptFile(options.actionsFile), nullptr, false);
+        runner.emplace(ParseScriptFile(options.actionsFile), false, nullptr);
         setScript([&runner](CHeadlessSession& s) { runner->RunDialog(s); });
     }
     const int before = session.Host().CommandsRun();
@@ -333,8 +335,8 @@ int RunOpen(Session& session, const Options& options, CDialogDriver& driver,
 int OpenHeadless(Session& session, const Options& options)
 {
     CHeadlessDriver driver;
-    const int status =
-        RunOpen(session, options, driver, [&driver](CHeadlessDriver::Script script) { driver.SetScript(std::move(script)); });
+    const int status = RunOpen(session, options, driver,
+                               [&driver](CHeadlessDriver::Script script) { driver.SetScript(std::move(script)); });
     if (options.actionsFile.empty() && driver.LastLeftOpen())
         std::cerr << "kalhost: nobody acted in the dialog of " << options.commandId
                   << ", so it was left open: give it an action script (--actions FILE, or - for standard input), "
@@ -396,7 +398,7 @@ int Play(Session& session, const Options& options)
             throw UsageError(ScriptName(options.playFile) + " line " + std::to_string(line.number) +
                              ": no menu command " + line.args[0]);
     CHeadlessDriver driver;
-    ScriptRunner runner(std::move(lines), [&session](UINT id) { session.SendMenuCommand(id); }, true);
+    ScriptRunner runner(std::move(lines), true, [&session](UINT id) { session.SendMenuCommand(id); });
     driver.SetScript([&runner](CHeadlessSession& s) { runner.RunDialog(s); });
     {
         DriverScope scope(driver);
@@ -475,8 +477,8 @@ const char* const kFooter =
 // subcommand the user meant, known or not.
 std::string SubcommandWord(int argc, char** argv)
 {
-    static const std::set<std::string> takesValue = {"--data", "--categorical", "--store", "--module-state",
-                                                     "--decimal", "--module"};
+    static const std::set<std::string> takesValue = {"--data",         "--categorical", "--store",
+                                                     "--module-state", "--decimal",     "--module"};
     for (int i = 1; i < argc; ++i) {
         std::string arg = argv[i];
         if (arg.empty() || arg[0] != '-')

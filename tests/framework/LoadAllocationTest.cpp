@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-
 namespace {
 
 std::atomic<std::size_t> g_largest{0};
@@ -40,7 +39,7 @@ std::size_t LargestAllocationLoading(const Bytes& bytes, UINT schema)
     List list;
     ResetLargestAllocation();
     try {
-        Load(bytes, [&](CArchive& ar) { list.Serialize(ar); }, schema);
+        Load(bytes, schema, [&](CArchive& ar) { list.Serialize(ar); });
         ADD_FAILURE() << "the load succeeded";
     } catch (const CArchiveException& e) {
         EXPECT_EQ(e.m_cause, CArchiveException::endOfFile);
@@ -63,8 +62,8 @@ TEST(LoadAllocation, HugeCountsInShortArchivesAllocateLittle)
     // A string whose length claims four billion units.
     CString text;
     ResetLargestAllocation();
-    EXPECT_THROW(Load({0xFF, 0xFE, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFE, 'a', 0},
-                      [&](CArchive& ar) { ar >> text; }),
-                 CArchiveException);
+    EXPECT_THROW(
+        Load({0xFF, 0xFE, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFE, 'a', 0}, [&](CArchive& ar) { ar >> text; }),
+        CArchiveException);
     EXPECT_LT(LargestAllocationSinceReset(), kLimit);
 }

@@ -62,8 +62,18 @@ TEST(VariableListArchive, PlainLayoutIsCountThenTwentyFourByteBlocks)
     auto list = TwoVariables();
     const Bytes expected = Cat({
         {0x02, 0x00},
-        Int32(0), Int32(0), Int32(1), Int32(3), Int32(0), Int32(0),
-        Int32(0), Int32(0), Int32(3), Int32(7), Int32(0), Int32(1),
+        Int32(0),
+        Int32(0),
+        Int32(1),
+        Int32(3),
+        Int32(0),
+        Int32(0),
+        Int32(0),
+        Int32(0),
+        Int32(3),
+        Int32(7),
+        Int32(0),
+        Int32(1),
     });
     EXPECT_EQ(Store([&](CArchive& ar) { list.Serialize(ar); }), expected);
 
@@ -120,14 +130,23 @@ TEST(VariableListArchive, NamedLayoutKeepsNamesAndLabels)
     auto list = TwoVariables();
     const Bytes expected = Cat({
         {0x02, 0x00},
-        {0xFF, 0xFE, 0xFF, 0x01}, Units(1, u'Y'), Int32(1), Int32(3),
-        {0xFF, 0xFE, 0xFF, 0x05}, {'y', 0, 'i', 0, 'e', 0, 'l', 0, 'd', 0}, Int32(0),
-        {0xFF, 0xFE, 0xFF, 0x02}, {'B', 0, '$', 0}, Int32(3), Int32(7),
-        {0xFF, 0xFE, 0xFF, 0x00}, Int32(1),
+        {0xFF, 0xFE, 0xFF, 0x01},
+        Units(1, u'Y'),
+        Int32(1),
+        Int32(3),
+        {0xFF, 0xFE, 0xFF, 0x05},
+        {'y', 0, 'i', 0, 'e', 0, 'l', 0, 'd', 0},
+        Int32(0),
+        {0xFF, 0xFE, 0xFF, 0x02},
+        {'B', 0, '$', 0},
+        Int32(3),
+        Int32(7),
+        {0xFF, 0xFE, 0xFF, 0x00},
+        Int32(1),
     });
     EXPECT_EQ(Store([&](CArchive& ar) { list.Serialize(ar); }, CArchive::namedLists), expected);
     CGUIArray<CGUIDataVariable> back;
-    Load(expected, [&](CArchive& ar) { back.Serialize(ar); }, CArchive::namedLists);
+    Load(expected, CArchive::namedLists, [&](CArchive& ar) { back.Serialize(ar); });
     ASSERT_EQ(back.GetSize(), 2);
     EXPECT_EQ(back[0].GetVariableName(), CString(u"Y"));
     EXPECT_EQ(back[0].GetLabel(), CString(u"yield"));
@@ -190,7 +209,7 @@ TEST(ArchiveRobustness, ARecordCutAtAnyByteEndsInEndOfFile)
             SCOPED_TRACE(cut);
             const Bytes part(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(cut));
             try {
-                Load(part, transfer, schema);
+                Load(part, schema, transfer);
                 ADD_FAILURE() << "loaded " << cut << " of " << whole.size() << " bytes";
             } catch (const CArchiveException& e) {
                 EXPECT_EQ(e.m_cause, CArchiveException::endOfFile);

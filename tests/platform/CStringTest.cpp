@@ -34,7 +34,10 @@ TEST(CStringText, Utf8EdgesRoundTripAndRepairBadInput)
     const std::string text = "x \xE2\x82\xAC \xF0\x9D\x84\x9E";
     EXPECT_EQ(CString::FromUtf8(text).ToUtf8(), text);
     EXPECT_EQ(CString::FromUtf8(text).GetLength(), 6); // the clef takes two units
-    EXPECT_EQ(CString::FromUtf8("a\xFF" "b").Str(), std::u16string(u"a\uFFFDb"));
+    EXPECT_EQ(CString::FromUtf8("a\xFF"
+                                "b")
+                  .Str(),
+              std::u16string(u"a\uFFFDb"));
     EXPECT_EQ(CString::FromUtf8("\xE2\x82").Str(), std::u16string(u"\uFFFD\uFFFD"));
     EXPECT_EQ(CString::FromUtf8("\xC0\x80").Str(), std::u16string(u"\uFFFD\uFFFD")); // overlong NUL
 }
@@ -79,10 +82,14 @@ TEST(CStringSharing, CopiesShareTheBufferUntilOneOfThemChanges)
     EXPECT_TRUE(copy.SharesBufferWith(name));
     // Every way of changing a copy leaves the original as it was.
     const std::vector<std::function<void(CString&)>> edits = {
-        [](CString& s) { s += u"!"; },        [](CString& s) { s.SetAt(0, u'D'); },
-        [](CString& s) { s.Replace(u" ", u"_"); }, [](CString& s) { s.Remove(u'e'); },
-        [](CString& s) { s.TrimLeft(u'd'); },  [](CString& s) { s.MakeUpper(); },
-        [](CString& s) { s.Empty(); },         [](CString& s) { s = CString(u"x"); },
+        [](CString& s) { s += u"!"; },
+        [](CString& s) { s.SetAt(0, u'D'); },
+        [](CString& s) { s.Replace(u" ", u"_"); },
+        [](CString& s) { s.Remove(u'e'); },
+        [](CString& s) { s.TrimLeft(u'd'); },
+        [](CString& s) { s.MakeUpper(); },
+        [](CString& s) { s.Empty(); },
+        [](CString& s) { s = CString(u"x"); },
         [](CString& s) { EXPECT_EQ(s.TakeText(), u"dose level"); },
     };
     for (const auto& edit : edits) {
@@ -112,5 +119,8 @@ TEST(CStringSharing, CopiesShareTheBufferUntilOneOfThemChanges)
     CString own(u"COVAR ");
     EXPECT_EQ(own.TakeText(), u"COVAR ");
     EXPECT_TRUE(own.IsEmpty());
+    CString sole(u'x', 64); // beyond the small-string buffer: the text moves
+    const char16_t* buffer = sole.Str().data();
+    EXPECT_EQ(sole.TakeText().data(), buffer);
     EXPECT_EQ(CString().TakeText(), u"");
 }

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kaltest {
@@ -28,13 +29,20 @@ Bytes Store(Fn&& write, UINT schema = CArchive::plainLists)
     return file.Detach();
 }
 
+// The reading function comes last, where a lambda reads best.
 template <class Fn>
-void Load(const Bytes& bytes, Fn&& read, UINT schema = CArchive::plainLists)
+void Load(const Bytes& bytes, UINT schema, Fn&& read)
 {
     CMemFile file(bytes);
     CArchive ar(&file, CArchive::load);
     ar.SetSchemaFlags(schema);
     read(ar);
+}
+
+template <class Fn>
+void Load(const Bytes& bytes, Fn&& read)
+{
+    Load(bytes, CArchive::plainLists, std::forward<Fn>(read));
 }
 
 // Concatenates byte pieces: Cat({0xFF, 0xFE}, Repeat(...)).

@@ -221,10 +221,22 @@ TEST_F(AnovaSettings, RecordBytesFollowTheStoredFieldOrder)
     model.SetAll(source, Vars({}), Vars({}), Vars({}), 1, 0, 1, 2, 5, u"r.kvd");
     // base: nothing; then missing, post hoc, save, post hoc index, save index,
     // the file name, then source, dependent, factor, covariate lists.
-    const Bytes expected = Cat({Int32(1), Int32(0), Int32(1), Int32(2), Int32(5),
+    const Bytes expected = Cat({Int32(1),
+                                Int32(0),
+                                Int32(1),
+                                Int32(2),
+                                Int32(5),
                                 {0xFF, 0xFE, 0xFF, 0x05, 'r', 0, '.', 0, 'k', 0, 'v', 0, 'd', 0},
-                                {0x01, 0x00}, Int32(0), Int32(0), Int32(1), Int32(4), Int32(0), Int32(0),
-                                {0x00, 0x00}, {0x00, 0x00}, {0x00, 0x00}});
+                                {0x01, 0x00},
+                                Int32(0),
+                                Int32(0),
+                                Int32(1),
+                                Int32(4),
+                                Int32(0),
+                                Int32(0),
+                                {0x00, 0x00},
+                                {0x00, 0x00},
+                                {0x00, 0x00}});
     EXPECT_EQ(Store([&](CArchive& ar) { model.Serialize(ar); }), expected);
 
     CAnovaData back;
@@ -249,7 +261,7 @@ TEST_F(AnovaSettings, TabRecordRoundTripsEveryPageAndFailsCutShort)
     for (const UINT schema : {UINT{CArchive::plainLists}, UINT{CArchive::namedLists}}) {
         const Bytes bytes = Store([&](CArchive& ar) { tab.Serialize(ar); }, schema);
         CAnovaTabData back;
-        Load(bytes, [&](CArchive& ar) { back.Serialize(ar); }, schema);
+        Load(bytes, schema, [&](CArchive& ar) { back.Serialize(ar); });
         // Enable states are not stored: confirm the options page again.
         back.GetAnovaOptionsData()->SetAllCheckState(1, 1, 1, 1, 1);
         back.GetRepeatMeasuresData()->SetOwnerID(2263);
@@ -262,7 +274,7 @@ TEST_F(AnovaSettings, TabRecordRoundTripsEveryPageAndFailsCutShort)
         }
         const Bytes cut(bytes.begin(), bytes.end() - 3);
         CAnovaTabData broken;
-        EXPECT_THROW(Load(cut, [&](CArchive& ar) { broken.Serialize(ar); }, schema), CArchiveException);
+        EXPECT_THROW(Load(cut, schema, [&](CArchive& ar) { broken.Serialize(ar); }), CArchiveException);
     }
 }
 

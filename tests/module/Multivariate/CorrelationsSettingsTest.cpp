@@ -149,7 +149,9 @@ TEST_F(CorrelationsSettings, EmAndHadiClausesFollowTheirChoicesAndTheValueRules)
     EXPECT_EQ(Line(), u"PEARSON X / EM T");
     SetOptions({.em = 1, .distribution = 1, .df = Entered(8, 5)});
     EXPECT_EQ(Line(), u"PEARSON X / EM T = 8");
-    SetOptions({.em = 1, .distribution = 1, .iterations = CGUIData<int>(0, 50, 20, 0, 1),
+    SetOptions({.em = 1,
+                .distribution = 1,
+                .iterations = CGUIData<int>(0, 50, 20, 0, 1),
                 .convergence = Entered(0.0001, 0.001)});
     EXPECT_EQ(Line(), u"PEARSON X / EM T ITER = 50 CONV = 0.0001");
     // An unknown distribution writes EM alone.
@@ -235,14 +237,33 @@ TEST_F(CorrelationsSettings, RecordBytesFollowTheStoredFieldOrder)
     rows.Add(CGUIDataVariable(u"X", NmsEnum::VT_NUMERIC, 7));
     page.SetAll(Vars({}), rows, Vars({}), 1, 1, 2, 1, 2, 1, 3, 2, 4, u"c.kvd");
     // The nine choices, the file name, then source, rows and columns.
-    const Bytes pageBytes =
-        Cat({Int32(1), Int32(1), Int32(2), Int32(1), Int32(2), Int32(1), Int32(3), Int32(2), Int32(4),
-             {0xFF, 0xFE, 0xFF, 0x05, 'c', 0, '.', 0, 'k', 0, 'v', 0, 'd', 0}, {0x00, 0x00}, {0x01, 0x00}, Int32(0),
-             Int32(0), Int32(1), Int32(7), Int32(0), Int32(0), {0x00, 0x00}});
+    const Bytes pageBytes = Cat({Int32(1),
+                                 Int32(1),
+                                 Int32(2),
+                                 Int32(1),
+                                 Int32(2),
+                                 Int32(1),
+                                 Int32(3),
+                                 Int32(2),
+                                 Int32(4),
+                                 {0xFF, 0xFE, 0xFF, 0x05, 'c', 0, '.', 0, 'k', 0, 'v', 0, 'd', 0},
+                                 {0x00, 0x00},
+                                 {0x01, 0x00},
+                                 Int32(0),
+                                 Int32(0),
+                                 Int32(1),
+                                 Int32(7),
+                                 Int32(0),
+                                 Int32(0),
+                                 {0x00, 0x00}});
     EXPECT_EQ(Store([&](CArchive& ar) { page.Serialize(ar); }), pageBytes);
 
     CCorrOptionsData options;
-    Set(options, {.probabilities = 1, .hadi = 1, .correction = 2, .distribution = 1, .df = Entered(8, 5),
+    Set(options, {.probabilities = 1,
+                  .hadi = 1,
+                  .correction = 2,
+                  .distribution = 1,
+                  .df = Entered(8, 5),
                   .iterations = CGUIData<int>(0, 50, 20, 0, 1)});
     // The five choices, then iterations, convergence, tolerance, the two
     // normal parameters (never written for "every option") and df.
@@ -259,17 +280,23 @@ TEST_F(CorrelationsSettings, RecordBytesFollowTheStoredFieldOrder)
 
 TEST_F(CorrelationsSettings, TheTabRecordReloadsEveryPageAndFailsCutShort)
 {
-    SetPage({.rows = {u"X", u"Y"}, .columns = {u"Z"}, .sets = 1, .dataType = 2, .deletion = 1,
-             .measures = {1, 0, 3, 0, 0}, .save = 1, .file = u"r.kvd"});
+    SetPage({.rows = {u"X", u"Y"},
+             .columns = {u"Z"},
+             .sets = 1,
+             .dataType = 2,
+             .deletion = 1,
+             .measures = {1, 0, 3, 0, 0},
+             .save = 1,
+             .file = u"r.kvd"});
     SetOptions({.em = 1, .distribution = 1, .df = Entered(12, 5)});
-    tab.GetBootStrapData()->SetAll(CBootStrapData::methodBootstrap, CGUIData<int>(0, 99, 1000, 0, 1),
-                                   CGUIData<int>(0), CGUIData<unsigned int>(5u));
+    tab.GetBootStrapData()->SetAll(CBootStrapData::methodBootstrap, CGUIData<int>(0, 99, 1000, 0, 1), CGUIData<int>(0),
+                                   CGUIData<unsigned int>(5u));
     EXPECT_EQ(Line(), u"GOODMAN X Y*Z / PAIRWISE / EM T = 12 SAMPLE = BOOT(99) RSEED = 5");
 
     for (const UINT schema : {UINT{CArchive::plainLists}, UINT{CArchive::namedLists}}) {
         const Bytes bytes = Store([&](CArchive& ar) { tab.Serialize(ar); }, schema);
         CCorrelationsTabData back;
-        Load(bytes, [&](CArchive& ar) { back.Serialize(ar); }, schema);
+        Load(bytes, schema, [&](CArchive& ar) { back.Serialize(ar); });
         CLIST<CCmdInfo> list;
         back.GetCommandInfoList(list);
         if (schema == CArchive::namedLists)
@@ -278,7 +305,7 @@ TEST_F(CorrelationsSettings, TheTabRecordReloadsEveryPageAndFailsCutShort)
             EXPECT_EQ(Lines(list).back(), u"GOODMAN * / PAIRWISE / EM T = 12 SAMPLE = BOOT(99) RSEED = 5");
         const Bytes cut(bytes.begin(), bytes.end() - 5);
         CCorrelationsTabData broken;
-        EXPECT_THROW(Load(cut, [&](CArchive& ar) { broken.Serialize(ar); }, schema), CArchiveException);
+        EXPECT_THROW(Load(cut, schema, [&](CArchive& ar) { broken.Serialize(ar); }), CArchiveException);
     }
 }
 

@@ -21,8 +21,8 @@ CGUIData<double> Given(double value, int flag1 = 2)
 struct Shewhart {
     CGUIArray<CGUIDataVariable> source, group, chart, frequency;
     CGUIData<double> center = CShewhartData::GetDefaultCenterEdit();
-    CGUIData<double> sigma = center, pLower = center, pUpper = center, lower = center, upper = center,
-                     sLower = center, sUpper = center;
+    CGUIData<double> sigma = center, pLower = center, pUpper = center, lower = center, upper = center, sLower = center,
+                     sUpper = center;
     int avgn = 0, agg = 0, total = 0, z = 0, limits = 0, type = 0;
     int sigmaInUse = 0, centerInUse = 0, aggEnabled = 0, totalEnabled = 0;
 
@@ -45,8 +45,7 @@ struct XMr {
     CGUIArray<CGUIDataVariable> source, chart;
     CGUIData<int> width = CXMrData::GetDefaultWidthEdit();
     CGUIData<double> center = CXMrData::GetDefaultCenterEdit();
-    CGUIData<double> mr = center, sigma = center, pLower = center, pUpper = center, sLower = center,
-                     sUpper = center;
+    CGUIData<double> mr = center, sigma = center, pLower = center, pUpper = center, sLower = center, sUpper = center;
     int centerLine = 0, limits = 0;
 
     void Into(CXMrData& d) const
@@ -55,7 +54,10 @@ struct XMr {
     }
 };
 
-Lines16 Commands(const CGUIBaseObj& settings) { return LinesOf(settings); }
+Lines16 Commands(const CGUIBaseObj& settings)
+{
+    return LinesOf(settings);
+}
 
 class ChartSettings : public ::testing::Test {
 protected:
@@ -240,13 +242,32 @@ TEST_F(ChartSettings, ShewhartRecordKeepsItsOrderAndLeavesThePagesIntegersOut)
     s.Into(chart);
 
     const Bytes zero = DataRecord(1, 2, 0.0, 0.0, 1);
-    const Bytes expected =
-        Cat({Int32(1), Int32(0), Int32(1), Int32(0), Int32(1), Int32(4),
-             // source (one element block), group, chart, frequency
-             {0x01, 0x00}, Int32(0), Int32(0), Int32(1), Int32(2), Int32(0), Int32(0), {0x00, 0x00}, {0x00, 0x00},
-             {0x00, 0x00},
-             // center, sigma, probability, preset and sigma bounds
-             zero, DataRecord(0, 2, 0.0, 1.5, 1), zero, zero, zero, DataRecord(0, 2, 0.0, 8.0, 1), zero, zero});
+    const Bytes expected = Cat({Int32(1),
+                                Int32(0),
+                                Int32(1),
+                                Int32(0),
+                                Int32(1),
+                                Int32(4),
+                                // source (one element block), group, chart, frequency
+                                {0x01, 0x00},
+                                Int32(0),
+                                Int32(0),
+                                Int32(1),
+                                Int32(2),
+                                Int32(0),
+                                Int32(0),
+                                {0x00, 0x00},
+                                {0x00, 0x00},
+                                {0x00, 0x00},
+                                // center, sigma, probability, preset and sigma bounds
+                                zero,
+                                DataRecord(0, 2, 0.0, 1.5, 1),
+                                zero,
+                                zero,
+                                zero,
+                                DataRecord(0, 2, 0.0, 8.0, 1),
+                                zero,
+                                zero});
     EXPECT_EQ(Store([&](CArchive& ar) { chart.Serialize(ar); }), expected);
 
     CShewhartData back;
@@ -275,12 +296,30 @@ TEST_F(ChartSettings, XMrAndRunTestsRecordsKeepTheirOrder)
     x.limits = 1;
     x.Into(chart);
     const Bytes zero = DataRecord(1, 0, 0.0, 0.0, 1);
-    const Bytes expected = Cat({Int32(1), Int32(1), {0x00, 0x00}, {0x01, 0x00}, Int32(0), Int32(0), Int32(1),
-                                Int32(0), Int32(0), Int32(0),
+    const Bytes expected = Cat({Int32(1),
+                                Int32(1),
+                                {0x00, 0x00},
+                                {0x01, 0x00},
+                                Int32(0),
+                                Int32(0),
+                                Int32(1),
+                                Int32(0),
+                                Int32(0),
+                                Int32(0),
                                 // width: state, flag 1, default, value, flag 2
-                                Int32(0), Int32(0), Int32(2), Int32(4), Int32(1),
+                                Int32(0),
+                                Int32(0),
+                                Int32(2),
+                                Int32(4),
+                                Int32(1),
                                 // center, MR, sigma, probability and sigma bounds
-                                zero, DataRecord(0, 0, 0.0, 1.25, 1), zero, zero, zero, zero, zero});
+                                zero,
+                                DataRecord(0, 0, 0.0, 1.25, 1),
+                                zero,
+                                zero,
+                                zero,
+                                zero,
+                                zero});
     EXPECT_EQ(Store([&](CArchive& ar) { chart.Serialize(ar); }), expected);
 
     CQcTestsData tests;
@@ -306,7 +345,7 @@ TEST_F(ChartSettings, TabRecordsRoundTripTheirPagesAndCopiesCarryThem)
     EXPECT_EQ(Bytes(bytes.end() - 36, bytes.end()),
               Cat({Int32(0), Int32(1), Int32(1), Int32(0), Int32(0), Int32(0), Int32(0), Int32(0), Int32(0)}));
     CShewhartTabData back;
-    Load(bytes, [&](CArchive& ar) { back.Serialize(ar); }, CArchive::namedLists);
+    Load(bytes, CArchive::namedLists, [&](CArchive& ar) { back.Serialize(ar); });
     // Whether AGG is offered is the page's to decide again.
     EXPECT_EQ(Commands(back), (Lines16{u"QC", u"WEIGHT  W", u"SHEWHART T1 T2* / TYPE=NP SLIMITS=2,  TEST = 1 2 "}));
 
@@ -322,8 +361,8 @@ TEST_F(ChartSettings, TabRecordsRoundTripTheirPagesAndCopiesCarryThem)
     x.Into(*xmr.GetXMrData());
     const Bytes xBytes = Store([&](CArchive& ar) { xmr.Serialize(ar); }, CArchive::namedLists);
     CXMrTabData xBack;
-    Load(xBytes, [&](CArchive& ar) { xBack.Serialize(ar); }, CArchive::namedLists);
+    Load(xBytes, CArchive::namedLists, [&](CArchive& ar) { xBack.Serialize(ar); });
     EXPECT_EQ(Commands(xBack), Commands(xmr));
     const Bytes cut(xBytes.begin(), xBytes.end() - 1);
-    EXPECT_THROW(Load(cut, [&](CArchive& ar) { xBack.Serialize(ar); }, CArchive::namedLists), CArchiveException);
+    EXPECT_THROW(Load(cut, CArchive::namedLists, [&](CArchive& ar) { xBack.Serialize(ar); }), CArchiveException);
 }

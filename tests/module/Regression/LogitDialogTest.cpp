@@ -207,8 +207,8 @@ TEST_F(LogitDialog, ChoiceSetsSwitchTheConfidenceTheMethodAndTheDeciles)
         EXPECT_FALSE(s.IsEnabled(Model::IDC_CONFIDENCE));
         s.Ok();
     });
-    EXPECT_EQ(Commands(), (Lines16{u"LOGIT", u"MODEL Y = CONSTANT+X", u"START / BACKWARD", u"STEP / AUTO", u"STOP ",
-                                   u"DECILE "}));
+    EXPECT_EQ(Commands(),
+              (Lines16{u"LOGIT", u"MODEL Y = CONSTANT+X", u"START / BACKWARD", u"STEP / AUTO", u"STOP ", u"DECILE "}));
     EXPECT_EQ(data.GetLogitData()->GetSetsPresent(), 0);
 }
 
@@ -217,7 +217,7 @@ TEST_F(LogitDialog, EveryNumericEditRefusesBadEntriesAndKeepsTheFocus)
     struct Edit {
         int page;
         UINT id;
-        std::u16string outOfRange; // besides a negative number
+        std::u16string outOfRange;  // besides a negative number
         std::vector<UINT> messages; // for text, a negative, outOfRange, an empty edit
     };
     const Edit edits[] = {
@@ -354,8 +354,9 @@ TEST_F(LogitDialog, AStoredLogitWritesTheSameLinesAfterARestart)
     handler.OnKVCommand(2004);
     ASSERT_EQ(host.runs.size(), 1u);
     const Lines16 printed = host.runs[0].second;
-    EXPECT_EQ(printed, (Lines16{u"LOGIT", u"CATEGORY G$ / DUMMY REF = LAST", u"SET S1 S2", u"MODEL Y = X2; CONSTANT+X+G$",
-                                u"SAVE 'fit.kvd' / RESIDUALS", u"ESTIMATE / CONFI = 0.9 ITER = 80"}));
+    EXPECT_EQ(printed,
+              (Lines16{u"LOGIT", u"CATEGORY G$ / DUMMY REF = LAST", u"SET S1 S2", u"MODEL Y = X2; CONSTANT+X+G$",
+                       u"SAVE 'fit.kvd' / RESIDUALS", u"ESTIMATE / CONFI = 0.9 ITER = 80"}));
 
     // Reopened, the page shows the stored save choice.
     driver.SetScript([](CHeadlessSession& s) {
@@ -369,7 +370,7 @@ TEST_F(LogitDialog, AStoredLogitWritesTheSameLinesAfterARestart)
     // A restart: the record is all that is left of the session.
     const Bytes record = Store([&](CArchive& ar) { host.store.at(2004)->Serialize(ar); }, CArchive::namedLists);
     CLogitTabData restored;
-    Load(record, [&](CArchive& ar) { restored.Serialize(ar); }, CArchive::namedLists);
+    Load(record, CArchive::namedLists, [&](CArchive& ar) { restored.Serialize(ar); });
     const MenuCommandRow* row = handler.FindRow(2004);
     ASSERT_NE(row, nullptr);
     ASSERT_TRUE(row->IsAvailable());

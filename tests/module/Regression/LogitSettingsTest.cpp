@@ -114,8 +114,8 @@ TEST_F(LogitSettings, TheModelLineTakesConditionalTermsAndTheConstantAsDocumente
 
 TEST_F(LogitSettings, TheSaveLineNeedsBothSaveFlagsAndNamesItsKindFromList2697)
 {
-    for (const auto& [index, kind] : std::vector<std::pair<int, std::u16string>>{
-             {0, u"COEFFICIENTS"}, {1, u"MODEL"}, {3, u"RESIDUALS/DATA"}}) {
+    for (const auto& [index, kind] :
+         std::vector<std::pair<int, std::u16string>>{{0, u"COEFFICIENTS"}, {1, u"MODEL"}, {3, u"RESIDUALS/DATA"}}) {
         SetModel({.save = 1, .file = u"fit.kvd", .saveCombo = index});
         EXPECT_EQ(Commands()[2], u"SAVE 'fit.kvd' / " + kind);
     }
@@ -182,7 +182,8 @@ TEST_F(LogitSettings, CategoriesNameTheModelsCategoricalIndependentsBeforeTheMod
 
     // Y (dependent) and Z (no term) are left out.
     SetCategories({u"Z", u"G$", u"Y", u"A"});
-    EXPECT_EQ(Commands(), (Lines16{u"LOGIT", u"CATEGORY G$ A / EFFECT", u"MODEL Y = C; CONSTANT+X+G$+A", u"ESTIMATE "}));
+    EXPECT_EQ(Commands(),
+              (Lines16{u"LOGIT", u"CATEGORY G$ A / EFFECT", u"MODEL Y = C; CONSTANT+X+G$+A", u"ESTIMATE "}));
     SetCategories({u"A"}, 1, 0, 1);
     EXPECT_EQ(Commands()[1], u"CATEGORY A / DUMMY REF = LAST MISS");
     SetCategories({u"A"}, 1, 1);
@@ -247,7 +248,8 @@ TEST_F(LogitSettings, TheEstimationPageWritesOrJoinsTheEstimateLine)
     // Stepwise, and with choice sets complete whatever the method.
     SetModel({});
     SetOpts({.estimation = 1});
-    EXPECT_EQ(Commands(), (Lines16{u"LOGIT", u"MODEL Y = CONSTANT+X+X2", u"START / BACKWARD", u"STEP / AUTO", u"STOP "}));
+    EXPECT_EQ(Commands(),
+              (Lines16{u"LOGIT", u"MODEL Y = CONSTANT+X+X2", u"START / BACKWARD", u"STEP / AUTO", u"STOP "}));
     opts.estimation = 1;
     opts.direction = 1;
     opts.force = Changed(1, 0);
@@ -329,7 +331,8 @@ TEST(LogitSource, TheModelFollowsTheSheetAndTheCategoriesFollowTheModel)
     host.SetVariables({u"Y", u"X", u"G$", u"S"});
 
     CLogitTabData tab;
-    Model{.dependent = Vars({u"Y", u"gone"}), .independent = Mixed({u"gone", u"X", u"G$"}),
+    Model{.dependent = Vars({u"Y", u"gone"}),
+          .independent = Mixed({u"gone", u"X", u"G$"}),
           .conditional = Vars({u"gone"})}
         .ApplyTo(*tab.GetLogitData());
     tab.GetLogitCategoriesData()->SetAll(Vars({}), Vars({u"gone"}), 0, 0, 0);
@@ -350,8 +353,16 @@ TEST_F(LogitSettings, ModelRecordBytes)
     CLogitData model;
     CGUIArray<CGUIDataVariable> conditional{};
     conditional.Add(CGUIDataVariable(u"C", NmsEnum::VT_NUMERIC, 4));
-    Model{.dependent = Vars({}), .independent = Vars({}), .conditional = conditional, .constant = 0, .save = 1,
-          .saveEnable = 0, .file = u"r", .saveCombo = 2, .confidence = Changed(0.5, 0.95), .confiState = 1,
+    Model{.dependent = Vars({}),
+          .independent = Vars({}),
+          .conditional = conditional,
+          .constant = 0,
+          .save = 1,
+          .saveEnable = 0,
+          .file = u"r",
+          .saveCombo = 2,
+          .confidence = Changed(0.5, 0.95),
+          .confiState = 1,
           .setsPresent = 1}
         .ApplyTo(model);
 
@@ -359,11 +370,29 @@ TEST_F(LogitSettings, ModelRecordBytes)
     // confidence state, sets present; the file name; the source, dependent,
     // independent and conditional lists; the confidence (state, flag,
     // default, value, flag).
-    const Bytes expected =
-        Cat({Int32(0), Int32(1), Int32(1), Int32(0), Int32(2), Int32(1), Int32(1), {0xFF, 0xFE, 0xFF, 0x01, 'r', 0},
-             {0x00, 0x00}, {0x00, 0x00}, {0x00, 0x00}, {0x01, 0x00}, Int32(0), Int32(0), Int32(1), Int32(4), Int32(0),
-             Int32(0), Int32(0), Int32(0), {0x66, 0x66, 0x66, 0x66, 0x66, 0x66, 0xEE, 0x3F},
-             {0, 0, 0, 0, 0, 0, 0xE0, 0x3F}, Int32(1)});
+    const Bytes expected = Cat({Int32(0),
+                                Int32(1),
+                                Int32(1),
+                                Int32(0),
+                                Int32(2),
+                                Int32(1),
+                                Int32(1),
+                                {0xFF, 0xFE, 0xFF, 0x01, 'r', 0},
+                                {0x00, 0x00},
+                                {0x00, 0x00},
+                                {0x00, 0x00},
+                                {0x01, 0x00},
+                                Int32(0),
+                                Int32(0),
+                                Int32(1),
+                                Int32(4),
+                                Int32(0),
+                                Int32(0),
+                                Int32(0),
+                                Int32(0),
+                                {0x66, 0x66, 0x66, 0x66, 0x66, 0x66, 0xEE, 0x3F},
+                                {0, 0, 0, 0, 0, 0, 0xE0, 0x3F},
+                                Int32(1)});
     EXPECT_EQ(Store([&](CArchive& ar) { model.Serialize(ar); }), expected);
 
     CLogitData back;
@@ -380,7 +409,10 @@ TEST_F(LogitSettings, ModelRecordBytes)
 
 TEST_F(LogitSettings, TabRecordHoldsThePagesInOrderAndALoadedTabWritesTheSameLines)
 {
-    SetModel({.independent = Mixed({u"X", u"G$"}), .save = 1, .file = u"m.kvd", .saveCombo = 2,
+    SetModel({.independent = Mixed({u"X", u"G$"}),
+              .save = 1,
+              .file = u"m.kvd",
+              .saveCombo = 2,
               .confidence = Changed(0.99, 0.95)});
     SetCategories({u"G$"}, 1, 1, 1);
     SetSets({u"S1", u"S2"}, 1, 1);
@@ -388,19 +420,18 @@ TEST_F(LogitSettings, TabRecordHoldsThePagesInOrderAndALoadedTabWritesTheSameLin
     tab.GetLogitDecilesData()->SetAll(1, 1, Changed(4, 10));
     tab.GetLogitDecilesData()->SetWindowState(0);
     const Lines16 lines = Commands();
-    EXPECT_EQ(lines, (Lines16{u"LOGIT", u"CATEGORY G$ / DUMMY REF = FIRST MISS", u"SET S1 S2 / INDICATORS",
-                              u"MODEL Y = CONSTANT+X+G$", u"SAVE 'm.kvd' / RESIDUALS",
-                              u"ESTIMATE / CONFI = 0.99 ITER = 80"}));
+    EXPECT_EQ(lines,
+              (Lines16{u"LOGIT", u"CATEGORY G$ / DUMMY REF = FIRST MISS", u"SET S1 S2 / INDICATORS",
+                       u"MODEL Y = CONSTANT+X+G$", u"SAVE 'm.kvd' / RESIDUALS", u"ESTIMATE / CONFI = 0.99 ITER = 80"}));
 
     const auto record = [](auto& page) { return Store([&](CArchive& ar) { page.Serialize(ar); }); };
     EXPECT_EQ(Store([&](CArchive& ar) { tab.Serialize(ar); }),
-              Cat({record(*tab.GetLogitData()), record(*tab.GetLogitCategoriesData()),
-                   record(*tab.GetLogitSetsData()), record(*tab.GetLogitOptsData()),
-                   record(*tab.GetLogitDecilesData())}));
+              Cat({record(*tab.GetLogitData()), record(*tab.GetLogitCategoriesData()), record(*tab.GetLogitSetsData()),
+                   record(*tab.GetLogitOptsData()), record(*tab.GetLogitDecilesData())}));
 
     const Bytes named = Store([&](CArchive& ar) { tab.Serialize(ar); }, CArchive::namedLists);
     CLogitTabData back;
-    Load(named, [&](CArchive& ar) { back.Serialize(ar); }, CArchive::namedLists);
+    Load(named, CArchive::namedLists, [&](CArchive& ar) { back.Serialize(ar); });
     back.GetLogitDecilesData()->SetWindowState(0); // window states are the session's, not stored
     EXPECT_EQ(LinesOf(back), lines);
     // A copy's categories page looks at the copy's model, not the original's.
@@ -412,5 +443,5 @@ TEST_F(LogitSettings, TabRecordHoldsThePagesInOrderAndALoadedTabWritesTheSameLin
 
     const Bytes cut(named.begin(), named.end() - 3);
     CLogitTabData broken;
-    EXPECT_THROW(Load(cut, [&](CArchive& ar) { broken.Serialize(ar); }, CArchive::namedLists), CArchiveException);
+    EXPECT_THROW(Load(cut, CArchive::namedLists, [&](CArchive& ar) { broken.Serialize(ar); }), CArchiveException);
 }

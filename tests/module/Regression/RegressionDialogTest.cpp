@@ -122,11 +122,11 @@ TEST_F(RegressionDialog, StepwiseControlsFollowTheMethodAndTheCriterion)
 {
     Run([](CHeadlessSession& s) {
         s.Page(kEstimation);
-        const std::vector<UINT> stepwise{Estimation::IDC_BACKWARD,   Estimation::IDC_FORWARD,
-                                         Estimation::IDC_AUTOMATIC,  Estimation::IDC_INTERACTIVE,
+        const std::vector<UINT> stepwise{Estimation::IDC_BACKWARD,    Estimation::IDC_FORWARD,
+                                         Estimation::IDC_AUTOMATIC,   Estimation::IDC_INTERACTIVE,
                                          Estimation::IDC_PROBABILITY, Estimation::IDC_FSTATISTIC,
-                                         Estimation::IDC_FORCE,      Estimation::IDC_FORCE_LABEL,
-                                         Estimation::IDC_MAXSTEP,    Estimation::IDC_MAXSTEP_LABEL};
+                                         Estimation::IDC_FORCE,       Estimation::IDC_FORCE_LABEL,
+                                         Estimation::IDC_MAXSTEP,     Estimation::IDC_MAXSTEP_LABEL};
         const std::vector<UINT> probability{Estimation::IDC_PROBABILITY_ENTER, Estimation::IDC_PROBABILITY_REMOVE,
                                             Estimation::IDC_PROBABILITY_ENTER_LABEL};
         const std::vector<UINT> fstatistic{Estimation::IDC_FENTER, Estimation::IDC_FREMOVE,
@@ -207,7 +207,7 @@ TEST_F(RegressionDialog, EveryNumericEditRefusesBadEntriesAndKeepsTheFocus)
     struct Edit {
         int page;
         UINT id;
-        std::u16string outOfRange; // besides a negative number
+        std::u16string outOfRange;  // besides a negative number
         std::vector<UINT> messages; // for text, a negative, outOfRange, an empty edit
     };
     // 2010: not a number, 2011: not a whole number, 2012: out of range, a
@@ -389,7 +389,7 @@ TEST_F(RegressionDialog, AStoredRegressionWritesTheSameLinesAfterARestart)
     // A restart: the record is all that is left of the session.
     const Bytes record = Store([&](CArchive& ar) { host.store.at(2051)->Serialize(ar); }, CArchive::namedLists);
     CRegressionTabData restored;
-    Load(record, [&](CArchive& ar) { restored.Serialize(ar); }, CArchive::namedLists);
+    Load(record, CArchive::namedLists, [&](CArchive& ar) { restored.Serialize(ar); });
     const MenuCommandRow* row = handler.FindRow(2051);
     ASSERT_NE(row, nullptr);
     ASSERT_TRUE(row->IsAvailable());

@@ -23,8 +23,7 @@ struct Options {
     CGUIData<double> confidence = CRegressionOptionsData::GetDefaultConfiEdit();
     CGUIData<int> maxStep = CRegressionOptionsData::GetDefaultMaxStepEdit();
     CGUIData<int> force = CRegressionOptionsData::GetDefaultForceEdit();
-    int mixture = 0, estimation = 0, direction = 0, stepping = 0, criterion = 0, mixtureEnabled = 0,
-        mixtureStatus = 0;
+    int mixture = 0, estimation = 0, direction = 0, stepping = 0, criterion = 0, mixtureEnabled = 0, mixtureStatus = 0;
 
     void ApplyTo(CRegressionOptionsData& data) const
     {
@@ -95,8 +94,8 @@ TEST_F(RegressionSettings, TheNumberOfCasesIsStatedForMatrixDataOnly)
 TEST_F(RegressionSettings, TheSaveLineTakesItsKindFromTheModelsSaveList)
 {
     SetModel({u"Y"}, {u"X"}, {1, 1}, CGUIData<int>(0), 1, 6, u"fit.kvd");
-    EXPECT_EQ(Commands(), (Lines16{u"REGRESS", u"MODEL Y = CONSTANT+X", u"SAVE 'fit.kvd' / RESIDUALS/DATA",
-                                   u"ESTIMATE /"}));
+    EXPECT_EQ(Commands(),
+              (Lines16{u"REGRESS", u"MODEL Y = CONSTANT+X", u"SAVE 'fit.kvd' / RESIDUALS/DATA", u"ESTIMATE /"}));
     SetModel({u"Y"}, {u"X"}, {1, 1}, CGUIData<int>(0), 1, 2, u"it's.kvd");
     EXPECT_EQ(Commands()[2], u"SAVE 'it''s.kvd' / COEFFICIENTS");
     SetModel({u"Y"}, {u"X"}, {1, 1}, CGUIData<int>(0), 0, 2, u"fit.kvd");
@@ -142,8 +141,8 @@ TEST_F(RegressionSettings, StepwiseEstimationWritesStartStepAndStop)
     Options options;
     options.estimation = 1;
     SetOptions(options);
-    EXPECT_EQ(Commands(), (Lines16{u"REGRESS", u"MODEL Y = CONSTANT+X1+X2+X3", u"START / BACKWARD", u"STEP / AUTO",
-                                   u"STOP "}));
+    EXPECT_EQ(Commands(),
+              (Lines16{u"REGRESS", u"MODEL Y = CONSTANT+X1+X2+X3", u"START / BACKWARD", u"STEP / AUTO", u"STOP "}));
 
     options.direction = 1;
     options.criterion = 1;
@@ -283,8 +282,7 @@ TEST_F(RegressionSettings, PredictionWritesItsSaveLineFirstThenThePrediction)
 TEST_F(RegressionSettings, LaterPagesJoinTheEstimateLineInPageOrder)
 {
     SetModel({u"Y"}, {u"X"});
-    tab.GetRegressionPredictData()->SetAll(u"new.kvd", {}, CRegressionPredictData::GetDefaultConfidenceEdit(), 1, 0,
-                                           0);
+    tab.GetRegressionPredictData()->SetAll(u"new.kvd", {}, CRegressionPredictData::GetDefaultConfidenceEdit(), 1, 0, 0);
     tab.GetAnovaOptionsData()->SetAll(1, 0, 1, 1, 2);
     tab.GetAnovaOptionsData()->SetAllCheckState(1, 1, 1, 0, 0); // as under owner 2260
     tab.GetBootStrapData()->SetAll(CBootStrapData::methodJackknife, CGUIData<int>(1000), CGUIData<int>(0),
@@ -297,7 +295,8 @@ TEST_F(RegressionSettings, LaterPagesJoinTheEstimateLineInPageOrder)
     options.estimation = 1;
     SetOptions(options);
     tab.GetRegressionPredictData()->SetWindowState(0);
-    EXPECT_EQ(Commands(), (Lines16{u"REGRESS", u"MODEL Y = CONSTANT+X", u"START / BACKWARD", u"STEP / AUTO", u"STOP "}));
+    EXPECT_EQ(Commands(),
+              (Lines16{u"REGRESS", u"MODEL Y = CONSTANT+X", u"START / BACKWARD", u"STEP / AUTO", u"STOP "}));
 
     // Pages out of use write nothing, the model page included.
     tab.GetRegressionOptionsData()->SetWindowState(0);
@@ -314,9 +313,22 @@ TEST_F(RegressionSettings, ModelRecordBytes)
     model.SetAll(source, Vars({}), Vars({}), Changed(50, 0), {0, 1}, 1, 3, u"r.kvd", 1);
     // base: nothing; save check, save index, file name, state word; then the
     // constant (value, window state), source, dependent, independent, cases.
-    const Bytes expected = Cat({Int32(1), Int32(3), {0xFF, 0xFE, 0xFF, 0x05, 'r', 0, '.', 0, 'k', 0, 'v', 0, 'd', 0},
-                                Int32(1), Int32(0), Int32(1), {0x01, 0x00}, Int32(0), Int32(0), Int32(1), Int32(4),
-                                Int32(0), Int32(0), {0x00, 0x00}, {0x00, 0x00}, DataRecord(0, 0, 0, 50)});
+    const Bytes expected = Cat({Int32(1),
+                                Int32(3),
+                                {0xFF, 0xFE, 0xFF, 0x05, 'r', 0, '.', 0, 'k', 0, 'v', 0, 'd', 0},
+                                Int32(1),
+                                Int32(0),
+                                Int32(1),
+                                {0x01, 0x00},
+                                Int32(0),
+                                Int32(0),
+                                Int32(1),
+                                Int32(4),
+                                Int32(0),
+                                Int32(0),
+                                {0x00, 0x00},
+                                {0x00, 0x00},
+                                DataRecord(0, 0, 0, 50)});
     EXPECT_EQ(Store([&](CArchive& ar) { model.Serialize(ar); }), expected);
 
     CRegressionData back;
@@ -349,9 +361,8 @@ TEST_F(RegressionSettings, EstimationRecordBytesPutTheConfidenceLast)
     // the F values, maximum step, force and the confidence.
     const Bytes expected = Cat({Int32(1), Int32(1), Int32(0), Int32(0), Int32(1), Int32(1), Int32(0),
                                 DataRecord(1, 0, 1e-12, 1e-12), DataRecord(1, 0, 0.15, 0.15),
-                                DataRecord(0, 0, 0.15, 0.5), DataRecord(1, 0, 4.0, 4.0),
-                                DataRecord(1, 0, 3.9, 3.9), DataRecord(0, 0, 15, 7), DataRecord(1, 0, 0, 0),
-                                DataRecord(1, 0, 0.95, 0.95)});
+                                DataRecord(0, 0, 0.15, 0.5), DataRecord(1, 0, 4.0, 4.0), DataRecord(1, 0, 3.9, 3.9),
+                                DataRecord(0, 0, 15, 7), DataRecord(1, 0, 0, 0), DataRecord(1, 0, 0.95, 0.95)});
     EXPECT_EQ(Store([&](CArchive& ar) { options.Serialize(ar); }), expected);
 
     CRegressionOptionsData back;
@@ -368,8 +379,12 @@ TEST_F(RegressionSettings, PredictionRecordBytes)
     CRegressionPredictData predict;
     predict.SetAll(u"u", u"pv", CGUIData<double>(0, 0.5, 0.95, 0, 1), 1, 0, 1);
     // use file, save file, predict, save, save index, then the confidence.
-    const Bytes expected = Cat({{0xFF, 0xFE, 0xFF, 0x01, 'u', 0}, {0xFF, 0xFE, 0xFF, 0x02, 'p', 0, 'v', 0}, Int32(1),
-                                Int32(0), Int32(1), DataRecord(0, 0, 0.95, 0.5)});
+    const Bytes expected = Cat({{0xFF, 0xFE, 0xFF, 0x01, 'u', 0},
+                                {0xFF, 0xFE, 0xFF, 0x02, 'p', 0, 'v', 0},
+                                Int32(1),
+                                Int32(0),
+                                Int32(1),
+                                DataRecord(0, 0, 0.95, 0.5)});
     EXPECT_EQ(Store([&](CArchive& ar) { predict.Serialize(ar); }), expected);
     CRegressionPredictData back;
     Load(expected, [&](CArchive& ar) { back.Serialize(ar); });
@@ -396,14 +411,14 @@ TEST_F(RegressionSettings, TabRecordHoldsThePagesInMemberOrderAndRoundTrips)
     // options page has been confirmed again (enable states are not stored).
     const Bytes named = Store([&](CArchive& ar) { tab.Serialize(ar); }, CArchive::namedLists);
     CRegressionTabData back;
-    Load(named, [&](CArchive& ar) { back.Serialize(ar); }, CArchive::namedLists);
+    Load(named, CArchive::namedLists, [&](CArchive& ar) { back.Serialize(ar); });
     back.GetAnovaOptionsData()->SetAllCheckState(1, 1, 1, 0, 0);
     EXPECT_EQ(LinesOf(back), Commands());
     EXPECT_EQ(Commands()[1], u"MODEL Y = X+X2");
 
     const Bytes cut(named.begin(), named.end() - 3);
     CRegressionTabData broken;
-    EXPECT_THROW(Load(cut, [&](CArchive& ar) { broken.Serialize(ar); }, CArchive::namedLists), CArchiveException);
+    EXPECT_THROW(Load(cut, CArchive::namedLists, [&](CArchive& ar) { broken.Serialize(ar); }), CArchiveException);
 }
 
 TEST_F(RegressionSettings, ACopyHasItsOwnPagesWithTheCopyAsTheirParent)
@@ -429,8 +444,8 @@ TEST(RegressionSource, FollowsTheSheetAndDropsVariablesItNoLongerHas)
     host.SetVariables({u"Y", u"X", u"G$"});
 
     CRegressionTabData tab;
-    tab.GetRegressionData()->SetAll(Vars({u"gone"}), Vars({u"Y", u"gone"}), Vars({u"gone", u"X"}),
-                                    CGUIData<int>(0), {1, 1}, 0, 6, {}, 1);
+    tab.GetRegressionData()->SetAll(Vars({u"gone"}), Vars({u"Y", u"gone"}), Vars({u"gone", u"X"}), CGUIData<int>(0),
+                                    {1, 1}, 0, 6, {}, 1);
     tab.FillListSource();
     CGUIArray<CGUIDataVariable> s, d, i;
     CGUIData<int> cases;
