@@ -4,7 +4,7 @@
 #   ./dev.sh test       install what is missing, build both presets, run every test
 #   ./dev.sh fuzz [S]   build the libFuzzer targets with clang, run each S seconds (60)
 #   ./dev.sh bench [A]  build and run the benchmarks (A: Google Benchmark options), print every goal
-#   ./dev.sh lint       check the library and host sources with clang-tidy (.clang-tidy)
+#   ./dev.sh lint       check formatting (.clang-format), then the library and host with clang-tidy (.clang-tidy)
 #   ./dev.sh package    build the Debian package (build/package/*.deb)
 #   ./dev.sh screenshots  draw every page of every available dialog (docs/images, docs/gallery.md)
 #   ./dev.sh deps       only install the build dependencies
@@ -18,7 +18,7 @@ PACKAGES=(
     libgtest-dev libgmock-dev libbenchmark-dev
     nlohmann-json3-dev libcli11-dev libcsv-dev
     qt6-base-dev fonts-dejavu-core fonts-noto-cjk pkgconf
-    clang-tidy
+    clang-tidy clang-format
 )
 
 deps() {
@@ -197,6 +197,10 @@ bench)
     ;;
 lint)
     deps
+    # Formatting first: it takes a second and names every file that is off.
+    git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror ||
+        { echo "clang-format: run  git ls-files '*.cpp' '*.h' | xargs clang-format -i"; exit 1; }
+    echo "clang-format: every source is formatted"
     # clang-tidy reads the compile commands of the default build; the
     # library and host sources are checked, with the headers they include.
     cmake --preset default >/dev/null

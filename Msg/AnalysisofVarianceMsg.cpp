@@ -13,4 +13,7 @@ const MenuCommandRow kRows[] = {
 
 } // namespace
 
-CAnalysisofVarianceMsg::CAnalysisofVarianceMsg(IGlobal* pGlobal) : CMenuGroupMsg(pGlobal, "Msg/AnalysisofVarianceMsg", kRows) {}
+CAnalysisofVarianceMsg::CAnalysisofVarianceMsg(IGlobal* pGlobal)
+    : CMenuGroupMsg(pGlobal, "Msg/AnalysisofVarianceMsg", kRows)
+{
+}

@@ -11,4 +11,7 @@ const MenuCommandRow kRows[] = {
 
 } // namespace
 
-CGeneralLinearModelMsg::CGeneralLinearModelMsg(IGlobal* pGlobal) : CMenuGroupMsg(pGlobal, "Msg/GeneralLinearModelMsg", kRows) {}
+CGeneralLinearModelMsg::CGeneralLinearModelMsg(IGlobal* pGlobal)
+    : CMenuGroupMsg(pGlobal, "Msg/GeneralLinearModelMsg", kRows)
+{
+}

@@ -20,8 +20,7 @@ struct MenuCommandRow;
 
 // Opens the analysis of one row: `node` is the output node to re-open it
 // from, or null for a menu command.
-using LaunchRoutine = void (*)(IGlobal* global, UINT id, void* parent, const MenuCommandRow& row,
-                               IGrHitNodeInfo* node);
+using LaunchRoutine = void (*)(IGlobal* global, UINT id, void* parent, const MenuCommandRow& row, IGrHitNodeInfo* node);
 // The lines an immediate OK in the row's dialog writes for the settings
 // `stored` (null: the defaults); false when the dialog refuses the OK or
 // `stored` is not of the row's settings class.
@@ -43,10 +42,15 @@ struct MenuCommandRow {
 };
 
 // A row whose dialog and settings classes are part of the module.
-#define KAL_MENU_ROW(id, Dlg, Data, ...) \
-    {id, #Dlg, #Data, {__VA_ARGS__}, &LaunchDialog<Dlg, Data>, &ConfirmDialog<Dlg, Data>}
+#define KAL_MENU_ROW(id, Dlg, Data, ...)                                                    \
+    {                                                                                       \
+        id, #Dlg, #Data, {__VA_ARGS__}, &LaunchDialog<Dlg, Data>, &ConfirmDialog<Dlg, Data> \
+    }
 // A row of the menu table whose analysis this module does not hold yet.
-#define KAL_MENU_ROW_UNAVAILABLE(id, Dlg, Data, ...) {id, #Dlg, #Data, {__VA_ARGS__}, nullptr, nullptr}
+#define KAL_MENU_ROW_UNAVAILABLE(id, Dlg, Data, ...)     \
+    {                                                    \
+        id, #Dlg, #Data, {__VA_ARGS__}, nullptr, nullptr \
+    }
 
 class CMenuGroupMsg : public CKVMsg {
 public:

@@ -4,8 +4,10 @@ namespace {
 
 const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2067, CMixedModelLinearMixedModelTabDlg, CMixedModelLinearMixedModelTabData, 2356, 2356),
-    KAL_MENU_ROW_UNAVAILABLE(2068, CMixedModelHierarchicalLinearMixedModelTabDlg, CMixedModelHierarchicalLinearMixedModelTabData, 2355, 2355),
-    KAL_MENU_ROW_UNAVAILABLE(2069, CMixedModelVarianceComponentsTabDlg, CMixedModelVarianceComponentsTabData, 2392, 2197),
+    KAL_MENU_ROW_UNAVAILABLE(2068, CMixedModelHierarchicalLinearMixedModelTabDlg,
+                             CMixedModelHierarchicalLinearMixedModelTabData, 2355, 2355),
+    KAL_MENU_ROW_UNAVAILABLE(2069, CMixedModelVarianceComponentsTabDlg, CMixedModelVarianceComponentsTabData, 2392,
+                             2197),
     KAL_MENU_ROW_UNAVAILABLE(2073, CHypothesistestTabDlg, CHypothesistestTabData, 2393, 2376),
 };
 

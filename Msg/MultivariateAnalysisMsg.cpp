@@ -20,4 +20,7 @@ const MenuCommandRow kRows[] = {
 
 } // namespace
 
-CMultivariateAnalysisMsg::CMultivariateAnalysisMsg(IGlobal* pGlobal) : CMenuGroupMsg(pGlobal, "Msg/MultivariateAnalysisMsg", kRows) {}
+CMultivariateAnalysisMsg::CMultivariateAnalysisMsg(IGlobal* pGlobal)
+    : CMenuGroupMsg(pGlobal, "Msg/MultivariateAnalysisMsg", kRows)
+{
+}

@@ -13,4 +13,7 @@ const MenuCommandRow kRows[] = {
 
 } // namespace
 
-CStat2SingleMenuItemsMsg::CStat2SingleMenuItemsMsg(IGlobal* pGlobal) : CMenuGroupMsg(pGlobal, "Msg/Stat2SingleMenuItemsMsg", kRows) {}
+CStat2SingleMenuItemsMsg::CStat2SingleMenuItemsMsg(IGlobal* pGlobal)
+    : CMenuGroupMsg(pGlobal, "Msg/Stat2SingleMenuItemsMsg", kRows)
+{
+}

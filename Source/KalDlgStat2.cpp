@@ -37,11 +37,8 @@ int LibraryEntry(void* instance, DWORD reason)
         // The framework keeps the registration until the module detaches.
         new CDynLinkLibrary(g_extensionModule, FALSE);
         return 1;
-    case DLL_PROCESS_DETACH:
-        AfxTermExtensionModule(g_extensionModule, FALSE);
-        return 1;
-    default:
-        return 1;
+    case DLL_PROCESS_DETACH: AfxTermExtensionModule(g_extensionModule, FALSE); return 1;
+    default: return 1;
     }
 }
 

@@ -24,7 +24,8 @@ void OpenMoveConfirm(benchmark::State& state, int variables, std::string baselin
     kaltest::FakeHost host;
     host.sheet.variables.reserve(static_cast<std::size_t>(variables));
     for (int i = 0; i < variables; ++i)
-        host.sheet.variables.push_back({u"V" + std::u16string(CString::FromNumber(i).Str()), NmsEnum::VT_NUMERIC, false});
+        host.sheet.variables.push_back(
+            {u"V" + std::u16string(CString::FromNumber(i).Str()), NmsEnum::VT_NUMERIC, false});
     IModule* module = GetModuleFactory(&host);
     CHeadlessDriver driver;
     CDialogDriver* previous = AfxSetDialogDriver(&driver);
@@ -72,8 +73,7 @@ int main(int argc, char** argv)
                                  Label({AtMost("ms", 300), Baseline("anova_dialog/100000")}))
         ->Unit(benchmark::kMillisecond);
     // Within 1.2 times ANOVA's time is the target.
-    benchmark::RegisterBenchmark("regression_dialog/100000", kRegression, 100'000,
-                                 Baseline("anova_dialog/100000", 1.2))
+    benchmark::RegisterBenchmark("regression_dialog/100000", kRegression, 100'000, Baseline("anova_dialog/100000", 1.2))
         ->Unit(benchmark::kMillisecond);
     return kalbench::RunBenchmarks(argc, argv);
 }

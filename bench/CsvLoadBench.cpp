@@ -159,9 +159,10 @@ int main(int argc, char** argv)
     for (const int n : {kSmall, kLarge}) {
         const std::string baseline = Name("csv_mmap_classify", n);
         benchmark::RegisterBenchmark(baseline.c_str(), MmapClassify, n)->Unit(benchmark::kMillisecond);
-        const std::string label = n == kLarge ? kalbench::Label({kalbench::Baseline(baseline, 2.0),
-                                                                 kalbench::Baseline(Name("load_csv", kSmall))})
-                                              : kalbench::Baseline(baseline);
+        const std::string label =
+            n == kLarge
+                ? kalbench::Label({kalbench::Baseline(baseline, 2.0), kalbench::Baseline(Name("load_csv", kSmall))})
+                : kalbench::Baseline(baseline);
         benchmark::RegisterBenchmark(Name("load_csv", n).c_str(), LoadCsv, n, label)->Unit(benchmark::kMillisecond);
     }
     return kalbench::RunBenchmarks(argc, argv);

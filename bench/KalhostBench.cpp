@@ -123,15 +123,15 @@ int main(int argc, char** argv)
                                  std::string())
         ->Unit(benchmark::kMillisecond);
     // Start-up is a fixed cost, so its goal is a time over `true`, not a ratio.
-    benchmark::RegisterBenchmark("kalhost_list", StartUp, std::string(KALHOST_PATH),
-                                 std::vector<std::string>{"list"}, kalbench::Over("spawn_true", 1))
+    benchmark::RegisterBenchmark("kalhost_list", StartUp, std::string(KALHOST_PATH), std::vector<std::string>{"list"},
+                                 kalbench::Over("spawn_true", 1))
         ->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("kalhost_wide_csv/10000", WideSheet, 10'000, std::string())
         ->Unit(benchmark::kMillisecond)
         ->Iterations(5);
-    benchmark::RegisterBenchmark("kalhost_wide_csv/100000", WideSheet, 100'000,
-                                 kalbench::Label({kalbench::Baseline("kalhost_wide_csv/10000"),
-                                                  kalbench::AtMost("peak_MB", 30)}))
+    benchmark::RegisterBenchmark(
+        "kalhost_wide_csv/100000", WideSheet, 100'000,
+        kalbench::Label({kalbench::Baseline("kalhost_wide_csv/10000"), kalbench::AtMost("peak_MB", 30)}))
         ->Unit(benchmark::kMillisecond)
         ->Iterations(2);
     return kalbench::RunBenchmarks(argc, argv);

@@ -3,7 +3,8 @@
 IMPLEMENT_DYNAMIC(CBootStrapDlg, CGUIBaseDlg)
 
 BEGIN_MESSAGE_MAP(CBootStrapDlg, CGUIBaseDlg)
-    ON_COMMAND_RANGE(CBootStrapDlg::IDC_METHOD_NONE, CBootStrapDlg::IDC_METHOD_SUBSAMPLING, &CBootStrapDlg::OnMethodRadio)
+    ON_COMMAND_RANGE(CBootStrapDlg::IDC_METHOD_NONE, CBootStrapDlg::IDC_METHOD_SUBSAMPLING,
+                     &CBootStrapDlg::OnMethodRadio)
 END_MESSAGE_MAP()
 
 void CBootStrapDlg::UpdateDependentWindows()

@@ -212,8 +212,8 @@ void CDDXVDlg::DDX_ControlWarn(CDataExchange* pDX, UINT id, UINT messageId)
     pDX->Fail();
 }
 
-void CDDXVDlg::DDX_FileEditCtrl(CDataExchange* pDX, UINT id, CFileEditCtrl& control, CString& fileName,
-                                int bSaveDialog, int bPromptOverwrite, int bMustExist, const CString& defaultExtension,
+void CDDXVDlg::DDX_FileEditCtrl(CDataExchange* pDX, UINT id, CFileEditCtrl& control, CString& fileName, int bSaveDialog,
+                                int bPromptOverwrite, int bMustExist, const CString& defaultExtension,
                                 const CString& filter, int)
 {
     DDX_Control(pDX, id, control);

@@ -17,8 +17,8 @@
 // Each field names its member, the control that shows it (0: none) and where
 // its default comes from: a GetDefault<Control>() that returns the value or
 // fills it, or nothing (lists start empty). Edits may carry the range that
-// the page accepts, and may be optional (left empty for their default). The archive order is each class's own and stays in its
-// Serialize (see SerializeValues).
+// the page accepts, and may be optional (left empty for their default). The archive order is each class's own and stays
+// in its Serialize (see SerializeValues).
 #pragma once
 
 #include "framework/GUIArray.h"
@@ -189,9 +189,11 @@ constexpr bool MatchesFields()
     if constexpr (std::tuple_size_v<Table> != sizeof...(Args)) {
         return false;
     } else {
-        return []<std::size_t... I>(std::index_sequence<I...>) {
+        return []<std::size_t... I>(std::index_sequence<I...>)
+        {
             return (std::is_same_v<typename std::tuple_element_t<I, Table>::Type, std::remove_cvref_t<Args>> && ...);
-        }(std::index_sequence_for<Args...>{});
+        }
+        (std::index_sequence_for<Args...>{});
     }
 }
 
@@ -243,7 +245,10 @@ inline void SerializeValue(CArchive& ar, CString& value)
         ar >> value;
 }
 template <class T>
-    requires requires(T& t, CArchive& ar) { t.Serialize(ar); }
+requires requires(T& t, CArchive& ar)
+{
+    t.Serialize(ar);
+}
 void SerializeValue(CArchive& ar, T& holder)
 {
     holder.Serialize(ar);

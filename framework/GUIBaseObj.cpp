@@ -154,7 +154,8 @@ void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUI
         // A source naming a variable twice lists it once.
         std::vector<bool> repeated(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i)
-            repeated[static_cast<std::size_t>(i)] = names.Find((*target)[i].GetVariableName().Str(), nameOf(*target)) != i;
+            repeated[static_cast<std::size_t>(i)] =
+                names.Find((*target)[i].GetVariableName().Str(), nameOf(*target)) != i;
         target->RemoveMarked(repeated);
         return;
     }
@@ -175,7 +176,8 @@ void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUI
     }
     if (bAdd)
         for (int i = 0; i < source->GetSize(); ++i)
-            if (!kept[static_cast<std::size_t>(i)] && inSource.Find((*source)[i].GetVariableName().Str(), nameOf(*source)) == i)
+            if (!kept[static_cast<std::size_t>(i)] &&
+                inSource.Find((*source)[i].GetVariableName().Str(), nameOf(*source)) == i)
                 updated.Add((*source)[i]); // once, however often the source names it
     *target = std::move(updated);
 }
@@ -252,9 +254,8 @@ int CGUIBaseObj::CompareTwoListCtrlArrays(const CGUIArray<CGUIDataVariable>& a, 
     return 1;
 }
 
-void CGUIBaseObj::GetListCtrlArrayElements(const CGUIArray<CGUIDataVariable>& source,
-                                           CGUIArray<CGUIDataVariable>& out, LISTARRAYSELECTIONTYPE which,
-                                           int bAppend)
+void CGUIBaseObj::GetListCtrlArrayElements(const CGUIArray<CGUIDataVariable>& source, CGUIArray<CGUIDataVariable>& out,
+                                           LISTARRAYSELECTIONTYPE which, int bAppend)
 {
     if (!bAppend)
         out.RemoveAll();
@@ -448,16 +449,16 @@ CString CGUIBaseObj::AddEditValueCmd(const CString& value, const CString& defaul
     return keyword + value;
 }
 
-CString CGUIBaseObj::AppendLimits(const CGUIData<double>& lower, const CGUIData<double>& upper,
-                                  const CString& keyword, int bCondition) const
+CString CGUIBaseObj::AppendLimits(const CGUIData<double>& lower, const CGUIData<double>& upper, const CString& keyword,
+                                  int bCondition) const
 {
     if (!bCondition)
         return {};
     return keyword + NumberText(lower.m_Value) + u"," + NumberText(upper.m_Value);
 }
 
-void CGUIBaseObj::AddStringCmd(const CString& text, CLIST<CCmdInfo>& list, const CString& prefix,
-                               const CString& suffix, int bAppend) const
+void CGUIBaseObj::AddStringCmd(const CString& text, CLIST<CCmdInfo>& list, const CString& prefix, const CString& suffix,
+                               int bAppend) const
 {
     if (bAppend)
         AppendCommandLine(list, prefix + text + suffix);

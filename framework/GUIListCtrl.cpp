@@ -1,6 +1,5 @@
 #include "framework/GUIListCtrl.h"
 
-
 IMPLEMENT_DYNAMIC(CGUIListCtrl, CListCtrl)
 
 void CGUIListCtrl::SetVariables(const CGUIArray<CGUIDataVariable>& variables, bool bKeepSelection)

@@ -7,7 +7,6 @@
 #include "platform/Collections.h"
 #include "platform/Wnd.h"
 
-
 struct CMenuIdStr {
     CString caption;
     UINT id = 0;

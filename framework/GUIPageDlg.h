@@ -50,10 +50,9 @@ public:
         kal::ForEachField<TData>([&](const auto& field) {
             if constexpr (requires { this->ExchangeField(pDX, CFieldExchange{}, m_Work.*field.member); }) {
                 if (field.control != 0)
-                    this->ExchangeField(pDX,
-                                        {field.control, field.flags, field.min, field.max, field.rangeMessage,
-                                         field.requiredBy},
-                                        m_Work.*field.member);
+                    this->ExchangeField(
+                        pDX, {field.control, field.flags, field.min, field.max, field.rangeMessage, field.requiredBy},
+                        m_Work.*field.member);
             }
         });
     }

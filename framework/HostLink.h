@@ -14,15 +14,15 @@ namespace kal::framework {
 // The IGlobal of the most recently created dialog services still alive.
 IGlobal* Host();
 
-bool WriteEveryOption();      // default false
+bool WriteEveryOption(); // default false
 // The kind of the active data: ordinary data (an active data sheet of type
 // code 1) or a matrix (a type code above 1); neither without a data sheet.
 bool IsOrdinaryData();
 bool IsMatrixData();
 // The module line the host's command runner ran last ("ANOVA", "QC", ...).
 CString CurrentCommandModule();
-char16_t DecimalSeparator();  // default '.'
-IBinReader* Resources();      // KalUseRes::GetGlobalResourceHandle()
+char16_t DecimalSeparator(); // default '.'
+IBinReader* Resources();     // KalUseRes::GetGlobalResourceHandle()
 
 // Resource string `id`, or an empty text.
 CString LoadResourceString(unsigned int id);

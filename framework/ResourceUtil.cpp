@@ -34,8 +34,7 @@ CString CComboUtil::GetComboString(unsigned int comboId, int index, unsigned int
 unsigned int CComboUtil::GetComboItem(unsigned int comboId, int index, unsigned int dialogId)
 {
     const auto entries = ComboList(comboId, dialogId);
-    return index >= 0 && index < static_cast<int>(entries.size()) ? entries[static_cast<std::size_t>(index)].itemId
-                                                                  : 0;
+    return index >= 0 && index < static_cast<int>(entries.size()) ? entries[static_cast<std::size_t>(index)].itemId : 0;
 }
 
 int CComboUtil::GetComboCount(unsigned int comboId, unsigned int dialogId)

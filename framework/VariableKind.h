@@ -11,7 +11,7 @@ class CGUIListCtrl;
 namespace kal::framework {
 
 enum class VariableKind {
-    Unknown,     // no data sheet knows the variable
+    Unknown, // no data sheet knows the variable
     Numeric,
     String,      // string variables are categorical as well
     Categorical, // numeric codes the data sheet marks categorical

@@ -12,7 +12,10 @@ class CWnd;
 
 class CKalAssertDlg {
 public:
-    CKalAssertDlg(std::string file, int line, CWnd* owner = nullptr) : m_file(std::move(file)), m_line(line), m_owner(owner) {}
+    CKalAssertDlg(std::string file, int line, CWnd* owner = nullptr)
+        : m_file(std::move(file)), m_line(line), m_owner(owner)
+    {
+    }
     // With a text saying what was wrong (a variable's name, say).
     CKalAssertDlg(std::string file, int line, std::string detail)
         : m_file(std::move(file)), m_line(line), m_owner(nullptr), m_detail(std::move(detail))

@@ -222,7 +222,8 @@ CArchive& CArchive::operator>>(CString& value)
         value = CString(std::move(text));
     } else {
         std::string bytes;
-        ReadBlocks(length, 1, [&](const BYTE* data, std::size_t n) { bytes.append(reinterpret_cast<const char*>(data), n); });
+        ReadBlocks(length, 1,
+                   [&](const BYTE* data, std::size_t n) { bytes.append(reinterpret_cast<const char*>(data), n); });
         value = CString::FromLatin1(bytes);
     }
     return *this;

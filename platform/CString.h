@@ -125,10 +125,22 @@ public:
     // moved out, not copied, unless another string shares it.
     std::u16string TakeText();
 
-    friend CString operator+(CString a, const CString& b) { a += b; return a; }
-    friend CString operator+(CString a, const char16_t* b) { a += b; return a; }
+    friend CString operator+(CString a, const CString& b)
+    {
+        a += b;
+        return a;
+    }
+    friend CString operator+(CString a, const char16_t* b)
+    {
+        a += b;
+        return a;
+    }
     friend CString operator+(const char16_t* a, const CString& b) { return CString(a) += b; }
-    friend CString operator+(CString a, char16_t b) { a += b; return a; }
+    friend CString operator+(CString a, char16_t b)
+    {
+        a += b;
+        return a;
+    }
 
     friend bool operator==(const CString& a, const CString& b) { return a.m_rep == b.m_rep || a.Str() == b.Str(); }
     friend std::strong_ordering operator<=>(const CString& a, const CString& b) { return a.Str() <=> b.Str(); }

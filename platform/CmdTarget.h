@@ -61,9 +61,9 @@ public:
 // What a handler thunk receives.
 struct AFX_NOTIFICATION {
     UINT nID;
-    NMHDR* pNMHDR;     // WM_NOTIFY only
-    LRESULT* pResult;  // WM_NOTIFY only
-    CCmdUI* pCmdUI;    // update handlers only
+    NMHDR* pNMHDR;    // WM_NOTIFY only
+    LRESULT* pResult; // WM_NOTIFY only
+    CCmdUI* pCmdUI;   // update handlers only
 };
 
 using AFX_PMSG = void (*)(CCmdTarget*, const AFX_NOTIFICATION&);
@@ -121,6 +121,8 @@ void Invoke(CCmdTarget* target, const AFX_NOTIFICATION& n)
 
 } // namespace kal::detail
 
+// The map macros open and close one function between them; laid out by hand.
+// clang-format off
 #define DECLARE_MESSAGE_MAP()                           \
 protected:                                              \
     static const AFX_MSGMAP* GetThisMessageMap();       \
@@ -139,9 +141,9 @@ protected:                                              \
         static const AFX_MSGMAP map = {&TheBaseClass::GetThisMessageMap, entries};      \
         return &map;                                                                    \
     }
+// clang-format on
 
-#define KAL_MSG_ENTRY_(message, code, first, last, member) \
-    {message, code, first, last, &kal::detail::Invoke<member>},
+#define KAL_MSG_ENTRY_(message, code, first, last, member) {message, code, first, last, &kal::detail::Invoke<member>},
 
 #define ON_COMMAND(id, member) KAL_MSG_ENTRY_(WM_COMMAND, CN_COMMAND, id, id, member)
 #define ON_COMMAND_RANGE(first, last, member) KAL_MSG_ENTRY_(WM_COMMAND, CN_COMMAND, first, last, member)

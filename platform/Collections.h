@@ -88,8 +88,16 @@ public:
     T& operator[](int index) { return ElementAt(index); }
     void SetAt(int index, const T& value) { m_data[Checked(index)] = value; }
 
-    int Add(const T& value) { m_data.push_back(value); return GetUpperBound(); }
-    int Add(T&& value) { m_data.push_back(std::move(value)); return GetUpperBound(); }
+    int Add(const T& value)
+    {
+        m_data.push_back(value);
+        return GetUpperBound();
+    }
+    int Add(T&& value)
+    {
+        m_data.push_back(std::move(value));
+        return GetUpperBound();
+    }
     void InsertAt(int index, const T& value)
     {
         if (index < 0 || index > GetSize())
@@ -112,7 +120,11 @@ public:
             throw CInvalidArgException();
         m_data.resize(static_cast<std::size_t>(size), T{});
     }
-    void Copy(const CArray& other) { if (&other != this) m_data = other.m_data; }
+    void Copy(const CArray& other)
+    {
+        if (&other != this)
+            m_data = other.m_data;
+    }
     void Append(const CArray& other) { m_data.insert(m_data.end(), other.m_data.begin(), other.m_data.end()); }
     void Reserve(std::size_t capacity) { m_data.reserve(capacity); }
 

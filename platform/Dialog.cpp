@@ -231,16 +231,16 @@ UINT CDialog::IsDlgButtonChecked(UINT id) const
 void CDialog::CheckRadioButton(UINT firstId, UINT lastId, UINT checkId)
 {
     for (CWnd* child : m_children)
-        if (auto* button = dynamic_cast<CButton*>(child); button && child->GetDlgCtrlID() >= firstId &&
-                                                          child->GetDlgCtrlID() <= lastId)
+        if (auto* button = dynamic_cast<CButton*>(child);
+            button && child->GetDlgCtrlID() >= firstId && child->GetDlgCtrlID() <= lastId)
             button->SetCheck(child->GetDlgCtrlID() == checkId ? BST_CHECKED : BST_UNCHECKED);
 }
 
 int CDialog::GetCheckedRadioButton(UINT firstId, UINT lastId) const
 {
     for (CWnd* child : m_children)
-        if (auto* button = dynamic_cast<CButton*>(child); button && child->GetDlgCtrlID() >= firstId &&
-                                                          child->GetDlgCtrlID() <= lastId && button->GetCheck())
+        if (auto* button = dynamic_cast<CButton*>(child);
+            button && child->GetDlgCtrlID() >= firstId && child->GetDlgCtrlID() <= lastId && button->GetCheck())
             return static_cast<int>(child->GetDlgCtrlID());
     return 0;
 }

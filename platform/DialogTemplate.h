@@ -26,7 +26,7 @@ enum class ControlKind {
 
 // Style bits a view honours.
 enum : DWORD {
-    WS_GROUP = 0x0001,       // first control of a group (radio groups, tab order)
+    WS_GROUP = 0x0001, // first control of a group (radio groups, tab order)
     WS_TABSTOP = 0x0002,
     WS_DISABLED = 0x0004,
     WS_HIDDEN = 0x0008,

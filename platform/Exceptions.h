@@ -16,7 +16,9 @@ class CArchiveException : public CException {
 public:
     enum Cause { none, generic, readOnly, endOfFile, writeOnly, badIndex, badClass, badSchema };
 
-    explicit CArchiveException(Cause cause, CString fileName = {}) : m_cause(cause), m_strFileName(std::move(fileName)) {}
+    explicit CArchiveException(Cause cause, CString fileName = {}) : m_cause(cause), m_strFileName(std::move(fileName))
+    {
+    }
     const char* what() const noexcept override;
 
     Cause m_cause;

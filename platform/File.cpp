@@ -31,10 +31,10 @@ bool CFile::Open(const std::filesystem::path& path, UINT flags, CFileException* 
         return true;
     if (error) {
         const int err = errno;
-        const auto cause = err == ENOENT ? CFileException::fileNotFound
-                         : err == EACCES ? CFileException::accessDenied
-                         : err == ENOSPC ? CFileException::diskFull
-                                         : CFileException::generic;
+        const auto cause = err == ENOENT   ? CFileException::fileNotFound
+                           : err == EACCES ? CFileException::accessDenied
+                           : err == ENOSPC ? CFileException::diskFull
+                                           : CFileException::generic;
         *error = CFileException(cause, m_strPath, err);
     }
     return false;

@@ -85,7 +85,11 @@ public:
         return bytes;
     }
     const std::vector<BYTE>& Data() const { return m_data; }
-    std::vector<BYTE> Detach() { m_position = 0; return std::move(m_data); }
+    std::vector<BYTE> Detach()
+    {
+        m_position = 0;
+        return std::move(m_data);
+    }
 
 private:
     std::vector<BYTE> m_data;

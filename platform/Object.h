@@ -51,7 +51,10 @@ protected:
 // Registers a serialisable class for the lifetime of the library that
 // defines it.
 struct CClassRegistration {
-    explicit CClassRegistration(const CRuntimeClass* runtimeClass) : m_class(runtimeClass) { CRuntimeClass::Register(runtimeClass); }
+    explicit CClassRegistration(const CRuntimeClass* runtimeClass) : m_class(runtimeClass)
+    {
+        CRuntimeClass::Register(runtimeClass);
+    }
     ~CClassRegistration() { CRuntimeClass::Unregister(m_class); }
     CClassRegistration(const CClassRegistration&) = delete;
     CClassRegistration& operator=(const CClassRegistration&) = delete;
@@ -60,6 +63,8 @@ struct CClassRegistration {
 
 #define RUNTIME_CLASS(class_name) (&class_name::class##class_name)
 
+// Laid out by hand: each macro defines functions a reader should see whole.
+// clang-format off
 #define DECLARE_DYNAMIC(class_name)                       \
 public:                                                   \
     static const CRuntimeClass class##class_name;         \
@@ -83,4 +88,5 @@ public:                                                   \
     CObject* class_name::CreateObject() { return new class_name; }                          \
     IMPLEMENT_RUNTIMECLASS_(class_name, base_class_name, schema, class_name::CreateObject) \
     static const CClassRegistration registration##class_name(RUNTIME_CLASS(class_name));
+// clang-format on
 // NOLINTEND(bugprone-macro-parentheses)

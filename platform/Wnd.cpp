@@ -412,7 +412,8 @@ void CGridCtrl::SetColumnCount(int columns)
 
 void CGridCtrl::SetRowCount(int rows)
 {
-    m_cells.resize(static_cast<std::size_t>(std::max(0, rows)), std::vector<CString>(static_cast<std::size_t>(m_nColumns)));
+    m_cells.resize(static_cast<std::size_t>(std::max(0, rows)),
+                   std::vector<CString>(static_cast<std::size_t>(m_nColumns)));
     NumberRows();
     if (m_nFocusRow >= GetRowCount())
         m_nFocusRow = -1;

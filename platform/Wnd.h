@@ -28,13 +28,13 @@ enum class WndAspect {
     Visible,
     Text,
     Check,
-    Items,      // list or combo entries changed
-    Selection,  // list selection or combo / tab current item
-    Cells,      // grid contents or shape
+    Items,     // list or combo entries changed
+    Selection, // list selection or combo / tab current item
+    Cells,     // grid contents or shape
     ToolTip,
-    Pages,      // tab pages
+    Pages, // tab pages
     Invalidated,
-    Focus,      // the window was given the keyboard focus
+    Focus, // the window was given the keyboard focus
 };
 
 // A driver's window for one model window.

@@ -3,8 +3,8 @@
 #include <csv.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cerrno>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -430,8 +430,8 @@ private:
     void AddValue(std::string_view field)
     {
         if (m_column >= m_variables.size())
-            return Fail(m_variables.size() + 1, "more values than the header names variables (" +
-                                                    std::to_string(m_variables.size()) + ")");
+            return Fail(m_variables.size() + 1,
+                        "more values than the header names variables (" + std::to_string(m_variables.size()) + ")");
         if (!m_numeric[m_column])
             return;
         bool decided = false;
@@ -450,7 +450,8 @@ private:
     void Fail(std::size_t column, const std::string& why)
     {
         if (m_error.empty())
-            m_error = m_name + " line " + std::to_string(m_recordStart) + ", column " + std::to_string(column) + ": " + why;
+            m_error =
+                m_name + " line " + std::to_string(m_recordStart) + ", column " + std::to_string(column) + ": " + why;
     }
 
     std::string m_name;

@@ -12,9 +12,9 @@
 namespace kalhost {
 
 struct HelpDocument {
-    std::string topic;             // as the menu names it; empty: no help for the command
-    std::filesystem::path file;    // the document found, empty when none was
-    std::string anchor;            // the section within it, without '#'
+    std::string topic;                           // as the menu names it; empty: no help for the command
+    std::filesystem::path file;                  // the document found, empty when none was
+    std::string anchor;                          // the section within it, without '#'
     std::vector<std::filesystem::path> searched; // where the document was looked for
 
     bool Found() const { return !file.empty(); }

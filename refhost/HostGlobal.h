@@ -25,7 +25,7 @@ namespace kalhost {
 struct HostPreferences {
     bool writeEveryOption = false;
     char16_t decimalSeparator = u'.';
-    bool matrixData = false;       // the data kind is a matrix (type code 2)
+    bool matrixData = false; // the data kind is a matrix (type code 2)
     bool restrictedMode = false;
     int editLevel = 1;
     int outputLevel = 2;

@@ -70,8 +70,8 @@ std::vector<MenuCommand> LoadedModule::Commands()
         if (!handler)
             continue;
         for (const auto& row : handler->Rows())
-            commands.push_back({row.id, handler->GetHandlerName(), row.dialogClass, row.settingsClass,
-                                row.IsAvailable()});
+            commands.push_back(
+                {row.id, handler->GetHandlerName(), row.dialogClass, row.settingsClass, row.IsAvailable()});
     }
     return commands;
 }

@@ -65,9 +65,8 @@ DWORD ParseStyle(const json& styles, ControlKind kind, const std::string& where)
     if (!styles.is_array())
         throw ResourceError(where + ": \"style\" must be a list of names");
     static const std::map<std::string, DWORD> kNames = {
-        {"group", WS_GROUP},         {"tabstop", WS_TABSTOP},     {"disabled", WS_DISABLED},
-        {"hidden", WS_HIDDEN},       {"default", BS_DEFPUSHBUTTON}, {"singlesel", LVS_SINGLESEL},
-        {"readonly", ES_READONLY},   {"right", SS_RIGHT},
+        {"group", WS_GROUP},           {"tabstop", WS_TABSTOP},      {"disabled", WS_DISABLED}, {"hidden", WS_HIDDEN},
+        {"default", BS_DEFPUSHBUTTON}, {"singlesel", LVS_SINGLESEL}, {"readonly", ES_READONLY}, {"right", SS_RIGHT},
     };
     for (const auto& name : styles) {
         if (name.is_string() && name.get<std::string>() == "notabstop") {

@@ -19,9 +19,9 @@ namespace kalhost {
 
 struct MenuNode {
     CString text;
-    UINT id = 0;            // 0 for a submenu
-    std::string handler;    // menu-group handler class that receives the command
-    std::string help;       // the command's help topic: "document.md#section", or empty
+    UINT id = 0;         // 0 for a submenu
+    std::string handler; // menu-group handler class that receives the command
+    std::string help;    // the command's help topic: "document.md#section", or empty
     std::vector<MenuNode> items;
 };
 

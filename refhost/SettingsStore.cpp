@@ -129,7 +129,7 @@ void WriteStoreFile(const std::filesystem::path& file, const std::vector<StoreEn
     if (std::filesystem::is_directory(target, ignored))
         throw StoreAccessError(target.string() + ": cannot be written: it is a directory");
     // The new store keeps the permissions of the one it replaces.
-    struct stat old{};
+    struct stat old {};
     const bool replacing = ::stat(target.c_str(), &old) == 0;
 
     // Write beside the target, push it to the disk, then rename over it: a

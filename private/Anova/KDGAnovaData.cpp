@@ -64,6 +64,5 @@ void CAnovaData::Serialize(CArchive& ar)
     CGUIBaseObj::Serialize(ar);
     // The flags and indexes, the file name, then the lists: not member order.
     kal::SerializeValues(ar, m_MissingValCheck, m_PostHocTestCheck, m_SaveFileCheck, m_PostHocTestCombo,
-                         m_SaveFileCombo, m_SaveFileEdit, m_SourceList, m_DependentList, m_FactorList,
-                         m_CovariateList);
+                         m_SaveFileCombo, m_SaveFileEdit, m_SourceList, m_DependentList, m_FactorList, m_CovariateList);
 }

@@ -19,13 +19,25 @@ CAnovaDlg::CAnovaDlg(CWnd* parent) : CGUIPageDlg(IDD, parent)
     const auto noStrings = [] { return false; };
     SetSourceList(IDC_SOURCE_LIST);
     // The dependent list comes first: a double click on the source fills it.
-    AddRoleList({.list = IDC_DEPENDENT_LIST, .add = IDC_ADD_DEPENDENT, .remove = IDC_REMOVE_DEPENDENT,
-                 .menuCommand = ID_MENU_DEPENDENT, .menuLabel = IDC_DEPENDENT_LABEL, .acceptsStrings = noStrings,
+    AddRoleList({.list = IDC_DEPENDENT_LIST,
+                 .add = IDC_ADD_DEPENDENT,
+                 .remove = IDC_REMOVE_DEPENDENT,
+                 .menuCommand = ID_MENU_DEPENDENT,
+                 .menuLabel = IDC_DEPENDENT_LABEL,
+                 .acceptsStrings = noStrings,
                  .afterMove = [this] { AfterDependentMove(); }});
-    AddRoleList({.list = IDC_FACTOR_LIST, .add = IDC_ADD_FACTOR, .remove = IDC_REMOVE_FACTOR,
-                 .menuCommand = ID_MENU_FACTOR, .menuLabel = IDC_FACTOR_LABEL, .enabled = &FactorMovesAllowed});
-    AddRoleList({.list = IDC_COVARIATE_LIST, .add = IDC_ADD_COVARIATE, .remove = IDC_REMOVE_COVARIATE,
-                 .menuCommand = ID_MENU_COVARIATE, .menuLabel = IDC_COVARIATE_LABEL, .acceptsStrings = noStrings});
+    AddRoleList({.list = IDC_FACTOR_LIST,
+                 .add = IDC_ADD_FACTOR,
+                 .remove = IDC_REMOVE_FACTOR,
+                 .menuCommand = ID_MENU_FACTOR,
+                 .menuLabel = IDC_FACTOR_LABEL,
+                 .enabled = &FactorMovesAllowed});
+    AddRoleList({.list = IDC_COVARIATE_LIST,
+                 .add = IDC_ADD_COVARIATE,
+                 .remove = IDC_REMOVE_COVARIATE,
+                 .menuCommand = ID_MENU_COVARIATE,
+                 .menuLabel = IDC_COVARIATE_LABEL,
+                 .acceptsStrings = noStrings});
 }
 
 BOOL CAnovaDlg::OnInitDialog()

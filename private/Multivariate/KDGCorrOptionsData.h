@@ -45,9 +45,8 @@ public:
     // The settings-from-output-node form stays visible beside this one.
     using CGUIBaseObj::SetAll;
     int SetAll(const CGUIData<double>& normalFirst, const CGUIData<double>& normalSecond, const CGUIData<double>& df,
-               const CGUIData<int>& iterations, const CGUIData<double>& convergence,
-               const CGUIData<double>& tolerance, int probabilitiesCheck, int estimationCheck, int hadiCheck,
-               int probabilityRadio, int distributionRadio)
+               const CGUIData<int>& iterations, const CGUIData<double>& convergence, const CGUIData<double>& tolerance,
+               int probabilitiesCheck, int estimationCheck, int hadiCheck, int probabilityRadio, int distributionRadio)
     {
         return kal::CopyFieldsIn(*this, normalFirst, normalSecond, df, iterations, convergence, tolerance,
                                  probabilitiesCheck, estimationCheck, hadiCheck, probabilityRadio, distributionRadio);

@@ -85,6 +85,6 @@ void CCorrelationsData::Serialize(CArchive& ar)
     CGUIBaseObj::Serialize(ar);
     // The nine choices, the file name, then the three lists.
     kal::SerializeValues(ar, m_SaveCheck, m_SetsRadio, m_ContinuousDataRadio, m_ListWiseRadio, m_ContinuousDataCombo,
-                         m_DistanceCombo, m_RankOrderDataCombo, m_UnorderedDataCombo, m_BinaryDataCombo,
-                         m_SaveFileEdit, m_SourceVariables, m_RowVariables, m_ColumnVariables);
+                         m_DistanceCombo, m_RankOrderDataCombo, m_UnorderedDataCombo, m_BinaryDataCombo, m_SaveFileEdit,
+                         m_SourceVariables, m_RowVariables, m_ColumnVariables);
 }

@@ -65,9 +65,9 @@ public:
                int listWiseRadio, int continuousDataCombo, int distanceCombo, int rankOrderDataCombo,
                int unorderedDataCombo, int binaryDataCombo, const CString& saveFileEdit)
     {
-        return kal::CopyFieldsIn(*this, source, rows, columns, saveCheck, setsRadio, continuousDataRadio,
-                                 listWiseRadio, continuousDataCombo, distanceCombo, rankOrderDataCombo,
-                                 unorderedDataCombo, binaryDataCombo, saveFileEdit);
+        return kal::CopyFieldsIn(*this, source, rows, columns, saveCheck, setsRadio, continuousDataRadio, listWiseRadio,
+                                 continuousDataCombo, distanceCombo, rankOrderDataCombo, unorderedDataCombo,
+                                 binaryDataCombo, saveFileEdit);
     }
 
     int GetContinuousDataRadio() const { return m_ContinuousDataRadio; }
@@ -107,8 +107,7 @@ public:
             F::Value(&CCorrelationsData::m_DistanceCombo, Ids::IDC_DISTANCE_COMBO, &GetDefaultDistanceCombo),
             F::Value(&CCorrelationsData::m_RankOrderDataCombo, Ids::IDC_RANK_ORDER_COMBO,
                      &GetDefaultRankOrderDataCombo),
-            F::Value(&CCorrelationsData::m_UnorderedDataCombo, Ids::IDC_UNORDERED_COMBO,
-                     &GetDefaultUnorderedDataCombo),
+            F::Value(&CCorrelationsData::m_UnorderedDataCombo, Ids::IDC_UNORDERED_COMBO, &GetDefaultUnorderedDataCombo),
             F::Value(&CCorrelationsData::m_BinaryDataCombo, Ids::IDC_BINARY_COMBO, &GetDefaultBinaryDataCombo),
             F::Value(&CCorrelationsData::m_SaveFileEdit, Ids::IDC_SAVE_FILE_EDIT, &GetDefaultSaveEdit),
         };

@@ -42,14 +42,20 @@ CCorrelationsDlg::CCorrelationsDlg(CWnd* parent) : CGUIPageDlg(IDD, parent)
     // The row list comes first: a double click on the source fills it.
     // String variables may be rows of unordered data only, and columns of
     // rank-order or unordered data.
-    AddRoleList({.list = IDC_ROW_LIST, .add = IDC_ADD_ROWS, .remove = IDC_REMOVE_ROWS, .menuCommand = ID_MENU_ROWS,
+    AddRoleList({.list = IDC_ROW_LIST,
+                 .add = IDC_ADD_ROWS,
+                 .remove = IDC_REMOVE_ROWS,
+                 .menuCommand = ID_MENU_ROWS,
                  .menuLabel = IDC_ROW_LABEL,
                  .acceptsStrings = [this] { return IsDlgButtonChecked(IDC_UNORDERED) != 0; }});
-    AddRoleList({.list = IDC_COLUMN_LIST, .add = IDC_ADD_COLUMNS, .remove = IDC_REMOVE_COLUMNS,
-                 .menuCommand = ID_MENU_COLUMNS, .menuLabel = IDC_COLUMN_LABEL,
-                 .acceptsStrings =
-                     [this] { return IsDlgButtonChecked(IDC_RANK_ORDER) || IsDlgButtonChecked(IDC_UNORDERED); },
-                 .enabled = [this] { return IsTwoSets(); }});
+    AddRoleList(
+        {.list = IDC_COLUMN_LIST,
+         .add = IDC_ADD_COLUMNS,
+         .remove = IDC_REMOVE_COLUMNS,
+         .menuCommand = ID_MENU_COLUMNS,
+         .menuLabel = IDC_COLUMN_LABEL,
+         .acceptsStrings = [this] { return IsDlgButtonChecked(IDC_RANK_ORDER) || IsDlgButtonChecked(IDC_UNORDERED); },
+         .enabled = [this] { return IsTwoSets(); }});
 }
 
 BOOL CCorrelationsDlg::OnInitDialog()

@@ -36,6 +36,6 @@ void CQcTestsData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
 void CQcTestsData::Serialize(CArchive& ar)
 {
     CGUIBaseObj::Serialize(ar);
-    kal::SerializeValues(ar, m_PerformAllCheck, m_Test1Check, m_Test2Check, m_Test3Check, m_Test4Check,
-                         m_Test5Check, m_Test6Check, m_Test7Check, m_Test8Check);
+    kal::SerializeValues(ar, m_PerformAllCheck, m_Test1Check, m_Test2Check, m_Test3Check, m_Test4Check, m_Test5Check,
+                         m_Test6Check, m_Test7Check, m_Test8Check);
 }

@@ -40,8 +40,8 @@ void CShewhartData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
                                        limits == kItemProbabilityLimits);
     line += kal::quality::LimitsClause(*this, m_LimitsLowerEdit, m_LimitsUpperEdit, u" LIMITS=",
                                        limits == kItemPresetLimits);
-    line += kal::quality::LimitsClause(*this, m_SigmaLowerEdit, m_SigmaUpperEdit, u" SLIMITS=",
-                                       limits == kItemSigmaLimits);
+    line +=
+        kal::quality::LimitsClause(*this, m_SigmaLowerEdit, m_SigmaUpperEdit, u" SLIMITS=", limits == kItemSigmaLimits);
 
     line += AddOnConditionCmd(u" AVGN", m_AvgnCheck);
     line += AddOnConditionCmd(u" AGG", m_AggOption && m_AggEnabled);

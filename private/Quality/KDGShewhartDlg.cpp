@@ -34,13 +34,25 @@ CShewhartDlg::CShewhartDlg(CWnd* parent) : CGUIPageDlg(IDD, parent)
     const auto noStrings = [] { return false; };
     SetSourceList(IDC_SOURCE_LIST);
     // The chart list comes first: a double click on the source fills it.
-    AddRoleList({.list = IDC_CHART_LIST, .add = IDC_ADD_CHART, .remove = IDC_REMOVE_CHART,
-                 .menuCommand = ID_MENU_CHART, .menuLabel = IDC_CHART_LABEL, .acceptsStrings = noStrings});
-    AddRoleList({.list = IDC_GROUP_LIST, .add = IDC_ADD_GROUP, .remove = IDC_REMOVE_GROUP,
-                 .menuCommand = ID_MENU_GROUP, .menuLabel = IDC_GROUP_LABEL});
-    AddRoleList({.list = IDC_FREQUENCY_LIST, .add = IDC_ADD_FREQUENCY, .remove = IDC_REMOVE_FREQUENCY,
-                 .menuCommand = ID_MENU_FREQUENCY, .menuLabel = IDC_FREQUENCY_LABEL, .acceptsStrings = noStrings,
-                 .enabled = [this] { return !IsMedianChart(); }, .maxItems = 1});
+    AddRoleList({.list = IDC_CHART_LIST,
+                 .add = IDC_ADD_CHART,
+                 .remove = IDC_REMOVE_CHART,
+                 .menuCommand = ID_MENU_CHART,
+                 .menuLabel = IDC_CHART_LABEL,
+                 .acceptsStrings = noStrings});
+    AddRoleList({.list = IDC_GROUP_LIST,
+                 .add = IDC_ADD_GROUP,
+                 .remove = IDC_REMOVE_GROUP,
+                 .menuCommand = ID_MENU_GROUP,
+                 .menuLabel = IDC_GROUP_LABEL});
+    AddRoleList({.list = IDC_FREQUENCY_LIST,
+                 .add = IDC_ADD_FREQUENCY,
+                 .remove = IDC_REMOVE_FREQUENCY,
+                 .menuCommand = ID_MENU_FREQUENCY,
+                 .menuLabel = IDC_FREQUENCY_LABEL,
+                 .acceptsStrings = noStrings,
+                 .enabled = [this] { return !IsMedianChart(); },
+                 .maxItems = 1});
 }
 
 BOOL CShewhartDlg::OnInitDialog()
@@ -73,7 +85,7 @@ void CShewhartDlg::DoDataExchange(CDataExchange* pDX)
                              kal::quality::IsGiven(m_Work.m_LimitsUpperEdit);
     DDX_ControlWarn(pDX, IDC_LIMITS_UPPER,
                     bothPresets && m_Work.m_LimitsLowerEdit.m_Value >= m_Work.m_LimitsUpperEdit.m_Value ? kMsgOutOfRange
-                                                                                                      : 0);
+                                                                                                        : 0);
     DDX_ControlWarn(pDX, IDC_SLIMITS_LOWER, ValidateSigmaLowerUpperEdit());
     // The two options count only while the page offers them.
     m_Work.m_AggEnabled = IsCtrlEnabled(IDC_AGG_CHECK) ? 1 : 0;
@@ -91,7 +103,8 @@ UINT CShewhartDlg::ValidateSigmaLowerUpperEdit() const
 {
     if (!IsDlgButtonChecked(IDC_SLIMITS_RADIO))
         return 0;
-    const bool none = !kal::quality::IsGiven(m_Work.m_SigmaLowerEdit) && !kal::quality::IsGiven(m_Work.m_SigmaUpperEdit);
+    const bool none =
+        !kal::quality::IsGiven(m_Work.m_SigmaLowerEdit) && !kal::quality::IsGiven(m_Work.m_SigmaUpperEdit);
     return none ? kMsgLimitsEmpty : 0;
 }
 

@@ -22,8 +22,8 @@ void CXMrData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
     const UINT limits = CRadioUtil::GetRadioItem(kLimitsRadio, m_LimitsRadio);
     line += kal::quality::LimitsClause(*this, m_PLimitsLowerEdit, m_PLimitsUpperEdit, u" PLIMITS=",
                                        limits == kItemProbabilityLimits);
-    line += kal::quality::LimitsClause(*this, m_SigmaLowerEdit, m_SigmaUpperEdit, u" SLIMITS=",
-                                       limits == kItemSigmaLimits);
+    line +=
+        kal::quality::LimitsClause(*this, m_SigmaLowerEdit, m_SigmaUpperEdit, u" SLIMITS=", limits == kItemSigmaLimits);
 
     switch (CRadioUtil::GetRadioItem(kCenterLineRadio, m_CenterLineRadio)) {
     case kItemMean: line += u" MEAN "; break;
@@ -44,6 +44,6 @@ void CXMrData::Serialize(CArchive& ar)
 {
     CGUIBaseObj::Serialize(ar);
     kal::SerializeValues(ar, m_CenterLineRadio, m_LimitsRadio, m_SourceVariables, m_ChartVariables, m_WidthEdit,
-                         m_CenterEdit, m_MrEdit, m_SigmaEdit, m_PLimitsLowerEdit, m_PLimitsUpperEdit,
-                         m_SigmaLowerEdit, m_SigmaUpperEdit);
+                         m_CenterEdit, m_MrEdit, m_SigmaEdit, m_PLimitsLowerEdit, m_PLimitsUpperEdit, m_SigmaLowerEdit,
+                         m_SigmaUpperEdit);
 }

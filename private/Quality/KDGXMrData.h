@@ -43,9 +43,9 @@ public:
     static int GetDefaultLimitsRadio() { return 0; }
 
     int GetAll(CGUIArray<CGUIDataVariable>& source, CGUIArray<CGUIDataVariable>& chart, CGUIData<int>& width,
-               CGUIData<double>& center, CGUIData<double>& mr, CGUIData<double>& sigma,
-               CGUIData<double>& pLimitsLower, CGUIData<double>& pLimitsUpper, CGUIData<double>& sigmaLower,
-               CGUIData<double>& sigmaUpper, int& centerLineRadio, int& limitsRadio) const
+               CGUIData<double>& center, CGUIData<double>& mr, CGUIData<double>& sigma, CGUIData<double>& pLimitsLower,
+               CGUIData<double>& pLimitsUpper, CGUIData<double>& sigmaLower, CGUIData<double>& sigmaUpper,
+               int& centerLineRadio, int& limitsRadio) const
     {
         return kal::CopyFieldsOut(*this, source, chart, width, center, mr, sigma, pLimitsLower, pLimitsUpper,
                                   sigmaLower, sigmaUpper, centerLineRadio, limitsRadio);
@@ -58,8 +58,8 @@ public:
                const CGUIData<double>& pLimitsUpper, const CGUIData<double>& sigmaLower,
                const CGUIData<double>& sigmaUpper, int centerLineRadio, int limitsRadio)
     {
-        return kal::CopyFieldsIn(*this, source, chart, width, center, mr, sigma, pLimitsLower, pLimitsUpper,
-                                 sigmaLower, sigmaUpper, centerLineRadio, limitsRadio);
+        return kal::CopyFieldsIn(*this, source, chart, width, center, mr, sigma, pLimitsLower, pLimitsUpper, sigmaLower,
+                                 sigmaUpper, centerLineRadio, limitsRadio);
     }
 
     void GetCommandInfoList(CLIST<CCmdInfo>& list) const override;

@@ -16,8 +16,12 @@ END_MESSAGE_MAP()
 CXMrDlg::CXMrDlg(CWnd* parent) : CGUIPageDlg(IDD, parent)
 {
     SetSourceList(IDC_SOURCE_LIST);
-    AddRoleList({.list = IDC_CHART_LIST, .add = IDC_ADD_CHART, .remove = IDC_REMOVE_CHART,
-                 .menuCommand = ID_MENU_CHART, .menuLabel = IDC_CHART_LABEL, .acceptsStrings = [] { return false; }});
+    AddRoleList({.list = IDC_CHART_LIST,
+                 .add = IDC_ADD_CHART,
+                 .remove = IDC_REMOVE_CHART,
+                 .menuCommand = ID_MENU_CHART,
+                 .menuLabel = IDC_CHART_LABEL,
+                 .acceptsStrings = [] { return false; }});
 }
 
 BOOL CXMrDlg::OnInitDialog()
@@ -39,7 +43,8 @@ UINT CXMrDlg::ValidateSigmaLowerUpperEdit() const
 {
     if (!IsDlgButtonChecked(IDC_SLIMITS_RADIO))
         return 0;
-    const bool none = !kal::quality::IsGiven(m_Work.m_SigmaLowerEdit) && !kal::quality::IsGiven(m_Work.m_SigmaUpperEdit);
+    const bool none =
+        !kal::quality::IsGiven(m_Work.m_SigmaLowerEdit) && !kal::quality::IsGiven(m_Work.m_SigmaUpperEdit);
     return none ? kMsgLimitsEmpty : 0;
 }
 

@@ -14,11 +14,14 @@ END_MESSAGE_MAP()
 CLogitCategoriesDlg::CLogitCategoriesDlg(CWnd* parent) : CGUIPageDlg(IDD, parent)
 {
     SetSourceList(IDC_SOURCE_LIST);
-    AddRoleList({.list = IDC_CATEGORY_LIST, .add = IDC_ADD_CATEGORY, .remove = IDC_REMOVE_CATEGORY,
-                 .menuCommand = ID_MENU_CATEGORY, .menuLabel = IDC_CATEGORY_LABEL,
+    AddRoleList({.list = IDC_CATEGORY_LIST,
+                 .add = IDC_ADD_CATEGORY,
+                 .remove = IDC_REMOVE_CATEGORY,
+                 .menuCommand = ID_MENU_CATEGORY,
+                 .menuLabel = IDC_CATEGORY_LABEL,
                  .removeEnabled = [this] {
                      return !CGUIListCtrl::IsSelectetVariableTypePresent(&ListCtrl(IDC_CATEGORY_LIST),
-                                                                        NmsEnum::VT_STRING);
+                                                                         NmsEnum::VT_STRING);
                  }});
 }
 

@@ -55,8 +55,8 @@ public:
                int setsPresent)
     {
         return kal::CopyFieldsIn(*this, source, dependent, independent, conditional, constantCheck, saveFileCheck,
-                                 constantCheckEnable, saveFileCheckEnable, saveFile, saveCombo, confidence,
-                                 confiState, setsPresent);
+                                 constantCheckEnable, saveFileCheckEnable, saveFile, saveCombo, confidence, confiState,
+                                 setsPresent);
     }
 
     const CGUIArray<CGUIDataVariable>& GetListOfVariablesList() const { return m_SourceList; }

@@ -20,13 +20,22 @@ CLogitDlg::CLogitDlg(CWnd* parent) : CGUIPageDlg(IDD, parent)
     // conditional terms are numbers. The categories page follows the
     // independent variables.
     SetSourceList(IDC_SOURCE_LIST);
-    AddRoleList({.list = IDC_DEPENDENT_LIST, .add = IDC_ADD_DEPENDENT, .remove = IDC_REMOVE_DEPENDENT,
-                 .menuCommand = ID_MENU_DEPENDENT, .menuLabel = IDC_DEPENDENT_LABEL});
-    AddRoleList({.list = IDC_INDEPENDENT_LIST, .add = IDC_ADD_INDEPENDENT, .remove = IDC_REMOVE_INDEPENDENT,
-                 .menuCommand = ID_MENU_INDEPENDENT, .menuLabel = IDC_INDEPENDENT_LABEL,
+    AddRoleList({.list = IDC_DEPENDENT_LIST,
+                 .add = IDC_ADD_DEPENDENT,
+                 .remove = IDC_REMOVE_DEPENDENT,
+                 .menuCommand = ID_MENU_DEPENDENT,
+                 .menuLabel = IDC_DEPENDENT_LABEL});
+    AddRoleList({.list = IDC_INDEPENDENT_LIST,
+                 .add = IDC_ADD_INDEPENDENT,
+                 .remove = IDC_REMOVE_INDEPENDENT,
+                 .menuCommand = ID_MENU_INDEPENDENT,
+                 .menuLabel = IDC_INDEPENDENT_LABEL,
                  .afterMove = [this] { NotifyTab(); }});
-    AddRoleList({.list = IDC_CONDITIONAL_LIST, .add = IDC_ADD_CONDITIONAL, .remove = IDC_REMOVE_CONDITIONAL,
-                 .menuCommand = ID_MENU_CONDITIONAL, .menuLabel = IDC_CONDITIONAL_LABEL,
+    AddRoleList({.list = IDC_CONDITIONAL_LIST,
+                 .add = IDC_ADD_CONDITIONAL,
+                 .remove = IDC_REMOVE_CONDITIONAL,
+                 .menuCommand = ID_MENU_CONDITIONAL,
+                 .menuLabel = IDC_CONDITIONAL_LABEL,
                  .acceptsStrings = [] { return false; }});
 }
 

@@ -37,10 +37,9 @@ void CLogitOptsDlg::DoDataExchange(CDataExchange* pDX)
     DDX_ControlWarn(pDX, IDC_CONVERGENCE,
                     IsCtrlInUse(IDC_CONVERGENCE) && m_Work.GetConvergence().m_Value <= 0 ? kMsgOutOfRange : 0);
     // A term that may leave as soon as it entered would step forever.
-    DDX_ControlWarn(pDX, IDC_REMOVE,
-                    IsCtrlInUse(IDC_REMOVE) && m_Work.GetRemove().m_Value < m_Work.GetEnter().m_Value
-                        ? kMsgRemoveBelowEnter
-                        : 0);
+    DDX_ControlWarn(
+        pDX, IDC_REMOVE,
+        IsCtrlInUse(IDC_REMOVE) && m_Work.GetRemove().m_Value < m_Work.GetEnter().m_Value ? kMsgRemoveBelowEnter : 0);
 }
 
 void CLogitOptsDlg::UpdateDependentWindows()
@@ -50,8 +49,8 @@ void CLogitOptsDlg::UpdateDependentWindows()
     EnableCtrl(IDC_COMPLETE, !sets);
     EnableCtrl(IDC_STEPWISE, !sets);
     const bool stepwise = IsStepwise();
-    for (const UINT id : {IDC_DIRECTION_LABEL, IDC_BACKWARD, IDC_FORWARD, IDC_ENTER_LABEL, IDC_ENTER,
-                          IDC_REMOVE_LABEL, IDC_REMOVE, IDC_FORCE_LABEL, IDC_FORCE, IDC_MAXSTEP_LABEL, IDC_MAXSTEP})
+    for (const UINT id : {IDC_DIRECTION_LABEL, IDC_BACKWARD, IDC_FORWARD, IDC_ENTER_LABEL, IDC_ENTER, IDC_REMOVE_LABEL,
+                          IDC_REMOVE, IDC_FORCE_LABEL, IDC_FORCE, IDC_MAXSTEP_LABEL, IDC_MAXSTEP})
         EnableCtrl(id, stepwise);
 }
 

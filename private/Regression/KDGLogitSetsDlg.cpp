@@ -13,8 +13,12 @@ CLogitSetsDlg::CLogitSetsDlg(CWnd* parent) : CGUIPageDlg(IDD, parent)
     // Set variables hold codes or indicators: numbers, and only while
     // choice sets are used.
     SetSourceList(IDC_SOURCE_LIST);
-    AddRoleList({.list = IDC_SET_LIST, .add = IDC_ADD_SET, .remove = IDC_REMOVE_SET, .menuCommand = ID_MENU_SET,
-                 .menuLabel = IDC_SET_LABEL, .acceptsStrings = [] { return false; },
+    AddRoleList({.list = IDC_SET_LIST,
+                 .add = IDC_ADD_SET,
+                 .remove = IDC_REMOVE_SET,
+                 .menuCommand = ID_MENU_SET,
+                 .menuLabel = IDC_SET_LABEL,
+                 .acceptsStrings = [] { return false; },
                  .enabled = [this] { return IsDlgButtonChecked(IDC_USE_SETS) != 0; }});
 }
 

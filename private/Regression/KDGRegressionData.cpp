@@ -62,6 +62,6 @@ void CRegressionData::Serialize(CArchive& ar)
 {
     CGUIBaseObj::Serialize(ar);
     // The plain members first, then the holders: not member order.
-    kal::SerializeValues(ar, m_SaveCheck, m_SaveCombo, m_SaveEdit, m_nStateWord, m_IncludeConstantCheck,
-                         m_SourceList, m_DependentList, m_IndependentList, m_CasesEdit);
+    kal::SerializeValues(ar, m_SaveCheck, m_SaveCombo, m_SaveEdit, m_nStateWord, m_IncludeConstantCheck, m_SourceList,
+                         m_DependentList, m_IndependentList, m_CasesEdit);
 }

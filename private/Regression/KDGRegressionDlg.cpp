@@ -19,10 +19,18 @@ CRegressionDlg::CRegressionDlg(CWnd* parent) : CGUIPageDlg(IDD, parent)
     // Both lists take numeric variables only.
     const auto noStrings = [] { return false; };
     SetSourceList(IDC_SOURCE_LIST);
-    AddRoleList({.list = IDC_DEPENDENT_LIST, .add = IDC_ADD_DEPENDENT, .remove = IDC_REMOVE_DEPENDENT,
-                 .menuCommand = ID_MENU_DEPENDENT, .menuLabel = IDC_DEPENDENT_LABEL, .acceptsStrings = noStrings});
-    AddRoleList({.list = IDC_INDEPENDENT_LIST, .add = IDC_ADD_INDEPENDENT, .remove = IDC_REMOVE_INDEPENDENT,
-                 .menuCommand = ID_MENU_INDEPENDENT, .menuLabel = IDC_INDEPENDENT_LABEL, .acceptsStrings = noStrings});
+    AddRoleList({.list = IDC_DEPENDENT_LIST,
+                 .add = IDC_ADD_DEPENDENT,
+                 .remove = IDC_REMOVE_DEPENDENT,
+                 .menuCommand = ID_MENU_DEPENDENT,
+                 .menuLabel = IDC_DEPENDENT_LABEL,
+                 .acceptsStrings = noStrings});
+    AddRoleList({.list = IDC_INDEPENDENT_LIST,
+                 .add = IDC_ADD_INDEPENDENT,
+                 .remove = IDC_REMOVE_INDEPENDENT,
+                 .menuCommand = ID_MENU_INDEPENDENT,
+                 .menuLabel = IDC_INDEPENDENT_LABEL,
+                 .acceptsStrings = noStrings});
 }
 
 BOOL CRegressionDlg::OnInitDialog()

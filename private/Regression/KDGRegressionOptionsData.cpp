@@ -39,8 +39,7 @@ BOOL CRegressionOptionsData::IsCompleteRadioChecked() const
 
 bool CRegressionOptionsData::IsRegressionLikeOwner(UINT owner)
 {
-    return owner == kOwnerRegression || owner == kOwnerGlmFirst || owner == kOwnerGlmSecond ||
-           owner == kOwnerGlmThird;
+    return owner == kOwnerRegression || owner == kOwnerGlmFirst || owner == kOwnerGlmSecond || owner == kOwnerGlmThird;
 }
 
 void CRegressionOptionsData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
@@ -131,6 +130,5 @@ void CRegressionOptionsData::Serialize(CArchive& ar)
     // The ints in member order; then the values, the confidence last.
     kal::SerializeValues(ar, m_MixtureModelCheck, m_EstimationRadio, m_DirectionRadio, m_SteppingRadio,
                          m_CriterionRadio, m_MixtureModelEnabled, m_MMCheckStatus, m_Tolerance, m_ProbabilityEnter,
-                         m_ProbabilityRemove, m_FStatisticEnter, m_FStatisticRemove, m_MaxStep, m_Force,
-                         m_Confidence);
+                         m_ProbabilityRemove, m_FStatisticEnter, m_FStatisticRemove, m_MaxStep, m_Force, m_Confidence);
 }

@@ -69,8 +69,8 @@ void CRegressionOptionsDlg::OnProbabilityRadio()
 {
     const bool stepwise = IsDlgButtonChecked(IDC_STEPWISE) != 0;
     const bool probability = IsDlgButtonChecked(IDC_PROBABILITY) != 0;
-    for (const UINT id : {IDC_PROBABILITY_ENTER_LABEL, IDC_PROBABILITY_ENTER, IDC_PROBABILITY_REMOVE_LABEL,
-                          IDC_PROBABILITY_REMOVE})
+    for (const UINT id :
+         {IDC_PROBABILITY_ENTER_LABEL, IDC_PROBABILITY_ENTER, IDC_PROBABILITY_REMOVE_LABEL, IDC_PROBABILITY_REMOVE})
         EnableCtrl(id, stepwise && probability);
     for (const UINT id : {IDC_FENTER_LABEL, IDC_FENTER, IDC_FREMOVE_LABEL, IDC_FREMOVE})
         EnableCtrl(id, stepwise && !probability);

@@ -7,12 +7,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QDesktopServices>
-#include <QMessageBox>
-#include <QUrl>
 #include <QFile>
 #include <QImageWriter>
-#include <QTemporaryDir>
 #include <QMenu>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QUrl>
 
 #include <stdexcept>
 #include <vector>
@@ -34,8 +34,7 @@ QtApplication::QtApplication(int& argc, char** argv, bool offscreen) : m_impl(st
         // warns on standard error when it has to make one up.
         if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
             m_impl->runtimeDir = std::make_unique<QTemporaryDir>();
-            QFile::setPermissions(m_impl->runtimeDir->path(),
-                                  QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            QFile::setPermissions(m_impl->runtimeDir->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
             qputenv("XDG_RUNTIME_DIR", m_impl->runtimeDir->path().toUtf8());
         }
     }

@@ -31,9 +31,9 @@ namespace kalhost::qt::detail {
 
 namespace {
 
-constexpr WndAspect kAllAspects[] = {WndAspect::Text,     WndAspect::Items,   WndAspect::Selection,
-                                     WndAspect::Check,    WndAspect::Cells,   WndAspect::Pages,
-                                     WndAspect::Enabled,  WndAspect::Visible, WndAspect::ToolTip};
+constexpr WndAspect kAllAspects[] = {WndAspect::Text,    WndAspect::Items,   WndAspect::Selection,
+                                     WndAspect::Check,   WndAspect::Cells,   WndAspect::Pages,
+                                     WndAspect::Enabled, WndAspect::Visible, WndAspect::ToolTip};
 
 DWORD StyleOf(const CWnd& wnd)
 {
@@ -319,7 +319,7 @@ public:
     {
         auto* list = static_cast<VariableListWidget*>(m_widget);
         list->setSelectionMode((StyleOf(wnd) & LVS_SINGLESEL) ? QAbstractItemView::SingleSelection
-                                                               : QAbstractItemView::ExtendedSelection);
+                                                              : QAbstractItemView::ExtendedSelection);
         list->setUniformItemSizes(true);
         list->setContextMenuPolicy(Qt::CustomContextMenu);
 
@@ -343,7 +343,7 @@ public:
         };
         list->itemIcon = [this](int row) {
             return row >= 0 && static_cast<std::size_t>(row) < m_kinds.size() ? VariableKindIcon(m_kinds[row])
-                                                                               : QIcon();
+                                                                              : QIcon();
         };
         list->itemTip = [this, list](int row) {
             if (row < 0 || static_cast<std::size_t>(row) >= m_kinds.size())
@@ -595,8 +595,8 @@ private:
             item = new QTableWidgetItem;
             table->setItem(row, column, item);
         }
-        const Qt::ItemFlags flags = column == 0 ? Qt::ItemIsEnabled
-                                                : Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable;
+        const Qt::ItemFlags flags =
+            column == 0 ? Qt::ItemIsEnabled : Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable;
         if (item->flags() != flags)
             item->setFlags(flags);
         if (item->text() != text)

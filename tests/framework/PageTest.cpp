@@ -20,9 +20,21 @@ using namespace kaltest;
 namespace {
 
 enum : UINT {
-    IDD_PROBE = 9100, SOURCE = 9101, NUMBERS = 9102, ADD_NUMBERS = 9103, REMOVE_NUMBERS = 9104, NUMBERS_LABEL = 9105,
-    ONE = 9106, ADD_ONE = 9107, REMOVE_ONE = 9108, CHECK = 9110, LEVEL = 9111, FILE_EDIT = 9112, CHOICE = 9114,
-    CHOICE_2 = 9115, MENU_NUMBERS = 33010,
+    IDD_PROBE = 9100,
+    SOURCE = 9101,
+    NUMBERS = 9102,
+    ADD_NUMBERS = 9103,
+    REMOVE_NUMBERS = 9104,
+    NUMBERS_LABEL = 9105,
+    ONE = 9106,
+    ADD_ONE = 9107,
+    REMOVE_ONE = 9108,
+    CHECK = 9110,
+    LEVEL = 9111,
+    FILE_EDIT = 9112,
+    CHOICE = 9114,
+    CHOICE_2 = 9115,
+    MENU_NUMBERS = 33010,
 };
 
 constexpr const char* kTemplate = R"({"dialogs": [{"id": 9100, "caption": "Probe", "size": [300, 200], "controls": [
@@ -51,8 +63,8 @@ public:
     static int GetDefaultChoice() { return 1; }
     static int GetDefaultHidden() { return 7; }
 
-    int GetAll(CVariableList& source, CVariableList& numbers, CVariableList& one, int& check,
-               CGUIData<double>& level, CString& file, int& choice, int& hidden) const
+    int GetAll(CVariableList& source, CVariableList& numbers, CVariableList& one, int& check, CGUIData<double>& level,
+               CString& file, int& choice, int& hidden) const
     {
         return kal::CopyFieldsOut(*this, source, numbers, one, check, level, file, choice, hidden);
     }
@@ -118,10 +130,17 @@ public:
     explicit CProbePage(CWnd* parent = nullptr) : CGUIPageDlg(IDD_PROBE, parent)
     {
         SetSourceList(SOURCE);
-        AddRoleList({.list = NUMBERS, .add = ADD_NUMBERS, .remove = REMOVE_NUMBERS, .menuCommand = MENU_NUMBERS,
-                     .menuLabel = NUMBERS_LABEL, .acceptsStrings = [] { return false; },
+        AddRoleList({.list = NUMBERS,
+                     .add = ADD_NUMBERS,
+                     .remove = REMOVE_NUMBERS,
+                     .menuCommand = MENU_NUMBERS,
+                     .menuLabel = NUMBERS_LABEL,
+                     .acceptsStrings = [] { return false; },
                      .afterMove = [this] { ++moves; }});
-        AddRoleList({.list = ONE, .add = ADD_ONE, .remove = REMOVE_ONE, .removeEnabled = [this] { return mayRemove; },
+        AddRoleList({.list = ONE,
+                     .add = ADD_ONE,
+                     .remove = REMOVE_ONE,
+                     .removeEnabled = [this] { return mayRemove; },
                      .maxItems = 1});
     }
     void UpdateDependentWindows() override

@@ -1,7 +1,7 @@
 // The kind a variable list shows for each entry, from the entry's own type
 // and what the open data sheet marks.
-#include "framework/GUIListCtrl.h"
 #include "framework/VariableKind.h"
+#include "framework/GUIListCtrl.h"
 #include "tests/support/FakeHost.h"
 
 #include <gtest/gtest.h>
@@ -36,9 +36,9 @@ TEST(VariableKinds, TheEntrysTypeAndTheSheetsCategoriesDecide)
         EXPECT_EQ(VariableKindsOf(list), expected);
         host.hasSheet = false;
         // Without a sheet nothing is categorical: the entries' own types.
-        EXPECT_EQ(VariableKindsOf(list), (std::vector<VariableKind>{VariableKind::Numeric, VariableKind::Numeric,
-                                                                    VariableKind::String, VariableKind::Unknown,
-                                                                    VariableKind::Unknown, VariableKind::Unknown}));
+        EXPECT_EQ(VariableKindsOf(list),
+                  (std::vector<VariableKind>{VariableKind::Numeric, VariableKind::Numeric, VariableKind::String,
+                                             VariableKind::Unknown, VariableKind::Unknown, VariableKind::Unknown}));
     }
     EXPECT_EQ(kal::framework::VariableKindText(VariableKind::Categorical), CString(u"categorical variable"));
     EXPECT_TRUE(kal::framework::VariableKindText(VariableKind::Unknown).IsEmpty());

@@ -161,7 +161,7 @@ TEST_F(Launch, ConfirmingWritesWhatAnImmediateOkWritesAndLeavesTheStoreAlone)
     CLIST<CCmdInfo> lines;
     ASSERT_TRUE(row.confirm(&host, 2008, row, &stored, lines));
     EXPECT_EQ(Lines(lines), (std::vector<std::u16string>{u"ANOVA", u"DEPEND Y Y2/ REPEAT = 2", u"CATEGORY / OFF",
-                                                          u"COVAR ", u"ESTIMATE / SS = TYPE3"}));
+                                                         u"COVAR ", u"ESTIMATE / SS = TYPE3"}));
     EXPECT_EQ(stored.GetRepeatMeasuresData()->GetOwnerID(), 0u);
     EXPECT_EQ(stored.GetBootStrapData()->GetWindowState(), 0);
     EXPECT_EQ(host.runs.size(), 0u);

@@ -91,9 +91,9 @@ TEST(ModuleEntry, NullGlobalIsReportedTwiceAndStillGivesAModule)
     EXPECT_EQ(capture.reports[1], std::make_pair(std::string("Source/DlgStat2"), 64));
     // Each handler then finds no IGlobal in its base, in creation order.
     const std::vector<std::string> handlerFiles = {
-        "Msg/AnalysisofVarianceMsg",   "Msg/CorrelationsMsg", "Msg/GeneralLinearModelMsg",
-        "Msg/MixedModelMsg",           "Msg/MixedRegressionMsg", "Msg/MultivariateAnalysisMsg",
-        "Msg/QualityAnalysisMsg",      "Msg/RegressionMsg",   "Msg/Stat2SingleMenuItemsMsg"};
+        "Msg/AnalysisofVarianceMsg", "Msg/CorrelationsMsg",    "Msg/GeneralLinearModelMsg",
+        "Msg/MixedModelMsg",         "Msg/MixedRegressionMsg", "Msg/MultivariateAnalysisMsg",
+        "Msg/QualityAnalysisMsg",    "Msg/RegressionMsg",      "Msg/Stat2SingleMenuItemsMsg"};
     ASSERT_EQ(capture.reports.size(), 2 + handlerFiles.size());
     for (std::size_t i = 0; i < handlerFiles.size(); ++i)
         EXPECT_EQ(capture.reports[2 + i], std::make_pair(handlerFiles[i], 36));

@@ -77,12 +77,14 @@ TEST(ArchiveStrings, EightBitFormLoadsAsLatin1)
 
 TEST(ArchiveStrings, NonAsciiUnitsSurviveARoundTrip)
 {
-    const CString text = CString::FromUtf8("Gr\xC3\xB6\xC3\x9F" "e \xF0\x9F\x93\x88");
+    const CString text = CString::FromUtf8("Gr\xC3\xB6\xC3\x9F"
+                                           "e \xF0\x9F\x93\x88");
     CString back;
     const Bytes bytes = Store([&](CArchive& ar) { ar << text; });
     Load(bytes, [&](CArchive& ar) { ar >> back; });
     EXPECT_EQ(back, text);
-    EXPECT_EQ(back.ToUtf8(), "Gr\xC3\xB6\xC3\x9F" "e \xF0\x9F\x93\x88");
+    EXPECT_EQ(back.ToUtf8(), "Gr\xC3\xB6\xC3\x9F"
+                             "e \xF0\x9F\x93\x88");
 }
 
 TEST(ArchiveCounts, ThreeFormsMatchTheFrameworkBytes)
@@ -103,22 +105,33 @@ TEST(ArchiveCounts, ThreeFormsMatchTheFrameworkBytes)
 
 TEST(ArchiveNumbers, AreLittleEndianOfTheirFixedWidth)
 {
-    const Bytes bytes = Store([](CArchive& ar) {
-        ar << static_cast<BYTE>(0x12) << static_cast<WORD>(0x3456) << -2 << 0x89ABCDEFu << 0.5;
-    });
-    EXPECT_EQ(bytes, (Bytes{0x12, 0x56, 0x34, 0xFE, 0xFF, 0xFF, 0xFF, 0xEF, 0xCD, 0xAB, 0x89,
-                            0, 0, 0, 0, 0, 0, 0xE0, 0x3F}));
+    const Bytes bytes = Store(
+        [](CArchive& ar) { ar << static_cast<BYTE>(0x12) << static_cast<WORD>(0x3456) << -2 << 0x89ABCDEFu << 0.5; });
+    EXPECT_EQ(bytes,
+              (Bytes{0x12, 0x56, 0x34, 0xFE, 0xFF, 0xFF, 0xFF, 0xEF, 0xCD, 0xAB, 0x89, 0, 0, 0, 0, 0, 0, 0xE0, 0x3F}));
 }
 
 TEST(ArchiveErrors, ShortDataEndsInEndOfFile)
 {
-    EXPECT_EQ(CauseOf({0x01, 0x02, 0x03}, [](CArchive& ar) { int v; ar >> v; }), CArchiveException::endOfFile);
-    EXPECT_EQ(CauseOf({0xFF, 0xFE, 0xFF, 0x05, 'a', 0}, [](CArchive& ar) { CString s; ar >> s; }),
+    EXPECT_EQ(CauseOf({0x01, 0x02, 0x03},
+                      [](CArchive& ar) {
+                          int v;
+                          ar >> v;
+                      }),
+              CArchiveException::endOfFile);
+    EXPECT_EQ(CauseOf({0xFF, 0xFE, 0xFF, 0x05, 'a', 0},
+                      [](CArchive& ar) {
+                          CString s;
+                          ar >> s;
+                      }),
               CArchiveException::endOfFile);
     EXPECT_EQ(CauseOf({0xFF}, [](CArchive& ar) { (void)ar.ReadCount(); }), CArchiveException::endOfFile);
     // A string claiming four billion units in a few bytes.
     EXPECT_EQ(CauseOf({0xFF, 0xFE, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFE, 'a', 0},
-                      [](CArchive& ar) { CString s; ar >> s; }),
+                      [](CArchive& ar) {
+                          CString s;
+                          ar >> s;
+                      }),
               CArchiveException::endOfFile);
 }
 
@@ -148,7 +161,11 @@ TEST(ArchiveErrors, TheWrongDirectionIsRefused)
 
 TEST(ArchiveErrors, ASecondUnicodeMarkerIsMalformed)
 {
-    EXPECT_EQ(CauseOf({0xFF, 0xFE, 0xFF, 0xFF, 0xFE, 0xFF, 0x00}, [](CArchive& ar) { CString s; ar >> s; }),
+    EXPECT_EQ(CauseOf({0xFF, 0xFE, 0xFF, 0xFF, 0xFE, 0xFF, 0x00},
+                      [](CArchive& ar) {
+                          CString s;
+                          ar >> s;
+                      }),
               CArchiveException::badIndex);
 }
 

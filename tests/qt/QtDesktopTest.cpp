@@ -40,7 +40,7 @@ using kalqttest::Key;
 
 namespace {
 
-constexpr UINT kSource = 4101;    // the regression model page's lists
+constexpr UINT kSource = 4101; // the regression model page's lists
 constexpr UINT kDependent = 4102;
 constexpr UINT kIndependent = 4103;
 constexpr UINT kMeasureCombo = 1422; // the correlations page's continuous measure
@@ -250,8 +250,8 @@ TEST_F(QtDesktop, NamesInOtherScriptsAreDrawnWithRealGlyphs)
     ASSERT_EQ(names.size(), 7u);
     host.sheet.variables.clear();
     for (const QString& name : names)
-        host.sheet.variables.push_back({name.toStdU16String(),
-                                        name.endsWith(u'$') ? NmsEnum::VT_STRING : NmsEnum::VT_NUMERIC, false});
+        host.sheet.variables.push_back(
+            {name.toStdU16String(), name.endsWith(u'$') ? NmsEnum::VT_STRING : NmsEnum::VT_NUMERIC, false});
 
     // The glyphs a font (with the system's fallbacks) draws for `text`;
     // glyph 0 is the font's box for a character it cannot draw.

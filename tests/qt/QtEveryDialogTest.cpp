@@ -65,8 +65,8 @@ QWidget* ControlWidget(QWidget* container, UINT id)
 
 QWidget* FocusTarget(QWidget* control)
 {
-    if (auto* edit = control->findChild<QLineEdit*>(); edit && !qobject_cast<QLineEdit*>(control) &&
-                                                       control->focusProxy() == edit)
+    if (auto* edit = control->findChild<QLineEdit*>();
+        edit && !qobject_cast<QLineEdit*>(control) && control->focusProxy() == edit)
         return edit;
     return control;
 }
@@ -194,8 +194,7 @@ TEST_F(QtEveryDialog, EveryMnemonicLandsOnTheControlItNames)
             if (!control->isEnabled() || !control->isVisible())
                 continue;
             tabs->tabBar()->setFocus(Qt::OtherFocusReason);
-            const std::string what =
-                "Alt+" + QString(QChar(*key)).toStdString() + " (" + c.caption.ToUtf8() + ")";
+            const std::string what = "Alt+" + QString(QChar(*key)).toStdString() + " (" + c.caption.ToUtf8() + ")";
             auto* push = target->kind == ControlKind::PushButton ? qobject_cast<QPushButton*>(control) : nullptr;
             std::optional<QSignalSpy> clicks;
             if (push)
@@ -253,8 +252,8 @@ TEST_F(QtEveryDialog, TabReachesEveryControlAndEachShowsTheFocus)
         }
         // A radio group is one Tab stop; the arrow keys move within it.
         for (const std::vector<QString>& group : RadioGroups(t)) {
-            const auto entered = std::find_if(group.begin(), group.end(),
-                                              [&](const QString& name) { return reached.count(name) > 0; });
+            const auto entered =
+                std::find_if(group.begin(), group.end(), [&](const QString& name) { return reached.count(name) > 0; });
             if (entered == group.end())
                 continue;
             ControlWidget(&page, entered->mid(3).toUInt())->setFocus(Qt::TabFocusReason);

@@ -71,8 +71,8 @@ std::string Blankness(const QImage& image)
         background = std::max(background, count);
     const int area = (right - left) * (bottom - top);
     if (colours.size() < 8 || area - background < area / 50)
-        return "a blank page (" + std::to_string(colours.size()) + " colours, " +
-               std::to_string(area - background) + " of " + std::to_string(area) + " pixels drawn)";
+        return "a blank page (" + std::to_string(colours.size()) + " colours, " + std::to_string(area - background) +
+               " of " + std::to_string(area) + " pixels drawn)";
     return {};
 }
 
@@ -127,8 +127,8 @@ TEST(Gallery, EveryPageOfEveryAvailableDialogRendersWithoutAssertion)
         for (const int page : pages) {
             SCOPED_TRACE("command " + id + " page " + std::to_string(page));
             const std::string file = dir.Path() + "/" + id + "-" + std::to_string(page) + ".png";
-            const auto r =
-                Kalhost({"open", id, "--actions", "-", "--gui", "--screenshot", file}, "page " + std::to_string(page) + "\n");
+            const auto r = Kalhost({"open", id, "--actions", "-", "--gui", "--screenshot", file},
+                                   "page " + std::to_string(page) + "\n");
             EXPECT_EQ(r.status, 0) << r.err;
             EXPECT_EQ(r.err, "");
             const QImage image(QString::fromStdString(file));

@@ -60,19 +60,46 @@ struct Trace {
 
 // Short builders for action lists.
 namespace act {
-inline Action Select(UINT list, std::vector<std::u16string> names) { return {Action::Select, list, std::move(names)}; }
-inline Action Click(UINT id) { return {Action::Click, id}; }
-inline Action Check(UINT id, int check) { return {Action::Check, id, {}, check}; }
-inline Action Choose(UINT combo, int index) { return {Action::Choose, combo, {}, index}; }
-inline Action Type(UINT edit, std::u16string text) { return {Action::Type, edit, {}, 0, 0, std::move(text)}; }
+inline Action Select(UINT list, std::vector<std::u16string> names)
+{
+    return {Action::Select, list, std::move(names)};
+}
+inline Action Click(UINT id)
+{
+    return {Action::Click, id};
+}
+inline Action Check(UINT id, int check)
+{
+    return {Action::Check, id, {}, check};
+}
+inline Action Choose(UINT combo, int index)
+{
+    return {Action::Choose, combo, {}, index};
+}
+inline Action Type(UINT edit, std::u16string text)
+{
+    return {Action::Type, edit, {}, 0, 0, std::move(text)};
+}
 inline Action Cell(UINT grid, int row, int column, std::u16string text)
 {
     return {Action::Cell, grid, {}, row, column, std::move(text)};
 }
-inline Action DoubleClick(UINT list, std::u16string item) { return {Action::DoubleClick, list, {std::move(item)}}; }
-inline Action Drag(UINT list, UINT target) { return {Action::Drag, list, {}, 0, 0, {}, target}; }
-inline Action Menu(UINT list, UINT command) { return {Action::Menu, list, {}, 0, 0, {}, command}; }
-inline Action Page(int index) { return {Action::Page, 0, {}, index}; }
+inline Action DoubleClick(UINT list, std::u16string item)
+{
+    return {Action::DoubleClick, list, {std::move(item)}};
+}
+inline Action Drag(UINT list, UINT target)
+{
+    return {Action::Drag, list, {}, 0, 0, {}, target};
+}
+inline Action Menu(UINT list, UINT command)
+{
+    return {Action::Menu, list, {}, 0, 0, {}, command};
+}
+inline Action Page(int index)
+{
+    return {Action::Page, 0, {}, index};
+}
 inline const Action Ok{Action::Ok};
 } // namespace act
 

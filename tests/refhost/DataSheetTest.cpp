@@ -40,7 +40,7 @@ TEST(CsvSheet, TypesComeFromNamesAndValues)
     ASSERT_EQ(sheet.GetVariableCount(), 5);
     EXPECT_EQ(sheet.CaseCount(), 3u);
     EXPECT_EQ(sheet.GetVariableType(0), NmsEnum::VT_NUMERIC);
-    EXPECT_EQ(sheet.GetVariableType(1), NmsEnum::VT_STRING); // '$' wins over numeric values
+    EXPECT_EQ(sheet.GetVariableType(1), NmsEnum::VT_STRING);  // '$' wins over numeric values
     EXPECT_EQ(sheet.GetVariableType(2), NmsEnum::VT_NUMERIC); // '.' is missing
     EXPECT_EQ(sheet.GetVariableType(3), NmsEnum::VT_STRING);
     EXPECT_EQ(sheet.GetVariableType(4), NmsEnum::VT_NUMERIC); // all missing
@@ -69,7 +69,8 @@ TEST(CsvSheet, BadFilesAreRefusedWithLineAndColumn)
     EXPECT_EQ(Refusal("a,\"b\tc\"\n"), "t.csv line 1, column 2: the variable name holds a control character");
     EXPECT_EQ(Refusal("a,b\n1,2\n3\n"), "t.csv line 3, column 2: 1 values where the header names 2 variables");
     EXPECT_EQ(Refusal("a,b\n1,2,3\n"), "t.csv line 2, column 3: more values than the header names variables (2)");
-    EXPECT_EQ(Refusal("a,b\n\"x\ny\",1,2\n"), "t.csv line 2, column 3: more values than the header names variables (2)");
+    EXPECT_EQ(Refusal("a,b\n\"x\ny\",1,2\n"),
+              "t.csv line 2, column 3: more values than the header names variables (2)");
     EXPECT_EQ(Refusal("a,b\n1,\"2\n"), "t.csv line 2: a quoted value is not closed");
     EXPECT_EQ(Refusal("a,b\n1,x\"y\n"),
               "t.csv line 2: badly quoted value (a quote inside an unquoted value, or text after a closing quote)");
@@ -94,8 +95,10 @@ TEST(CsvSheet, ByteOrderMarksOtherDelimitersAndTheEncoding)
     EXPECT_EQ(Refusal("a\tb\n1,2\n"), "t.csv line 2, column 2: 1 values where the header names 2 variables");
 
     // Names in another encoding would decode to other names: refused.
-    EXPECT_EQ(Refusal("dose,\xE9t\xE9\n1,2\n"), "t.csv line 1, column 2: bytes that are not UTF-8 (save the file as UTF-8)");
-    EXPECT_EQ(Refusal("a,b\n1,2\n3,\"caf\xE9\"\n"), "t.csv line 3, column 2: bytes that are not UTF-8 (save the file as UTF-8)");
+    EXPECT_EQ(Refusal("dose,\xE9t\xE9\n1,2\n"),
+              "t.csv line 1, column 2: bytes that are not UTF-8 (save the file as UTF-8)");
+    EXPECT_EQ(Refusal("a,b\n1,2\n3,\"caf\xE9\"\n"),
+              "t.csv line 3, column 2: bytes that are not UTF-8 (save the file as UTF-8)");
     EXPECT_EQ(Refusal("a\n\xC0\xAF\n"), "t.csv line 2, column 1: bytes that are not UTF-8 (save the file as UTF-8)");
     EXPECT_EQ(Load("d\xC3\xA9j\xC3\xA0,\xE6\x97\xA5\n1,2\n").GetVariableName(1, 1), CString(u"\u65E5"));
 }
@@ -135,14 +138,27 @@ TEST(CsvSheet, UnquotedValuesInOneRowAreJudgedOneByOne)
     // Each value in its own column of one quote-free row, after a row of
     // ones: numbers read in place must be told apart from look-alikes.
     const std::vector<std::pair<std::string, NmsEnum::VARIABLETYPE>> values = {
-        {"+4", NmsEnum::VT_NUMERIC}, {" 5 ", NmsEnum::VT_NUMERIC}, {"-6.5e-3", NmsEnum::VT_NUMERIC},
-        {".", NmsEnum::VT_NUMERIC}, {"", NmsEnum::VT_NUMERIC}, {".5", NmsEnum::VT_NUMERIC},
-        {"5.", NmsEnum::VT_NUMERIC}, {"-123456789012345", NmsEnum::VT_NUMERIC},
-        {"12345678901234567890", NmsEnum::VT_NUMERIC}, {"7\t", NmsEnum::VT_NUMERIC},
-        {"1.2.3", NmsEnum::VT_STRING}, {"-", NmsEnum::VT_STRING}, {"+", NmsEnum::VT_STRING},
-        {"1-", NmsEnum::VT_STRING}, {"--1", NmsEnum::VT_STRING}, {"+-1", NmsEnum::VT_STRING},
-        {"12abc", NmsEnum::VT_STRING}, {"1e999", NmsEnum::VT_STRING}, {"NA", NmsEnum::VT_STRING},
-        {"1 2", NmsEnum::VT_STRING}, {std::string(400, '9'), NmsEnum::VT_STRING}}; // beyond a double
+        {"+4", NmsEnum::VT_NUMERIC},
+        {" 5 ", NmsEnum::VT_NUMERIC},
+        {"-6.5e-3", NmsEnum::VT_NUMERIC},
+        {".", NmsEnum::VT_NUMERIC},
+        {"", NmsEnum::VT_NUMERIC},
+        {".5", NmsEnum::VT_NUMERIC},
+        {"5.", NmsEnum::VT_NUMERIC},
+        {"-123456789012345", NmsEnum::VT_NUMERIC},
+        {"12345678901234567890", NmsEnum::VT_NUMERIC},
+        {"7\t", NmsEnum::VT_NUMERIC},
+        {"1.2.3", NmsEnum::VT_STRING},
+        {"-", NmsEnum::VT_STRING},
+        {"+", NmsEnum::VT_STRING},
+        {"1-", NmsEnum::VT_STRING},
+        {"--1", NmsEnum::VT_STRING},
+        {"+-1", NmsEnum::VT_STRING},
+        {"12abc", NmsEnum::VT_STRING},
+        {"1e999", NmsEnum::VT_STRING},
+        {"NA", NmsEnum::VT_STRING},
+        {"1 2", NmsEnum::VT_STRING},
+        {std::string(400, '9'), NmsEnum::VT_STRING}}; // beyond a double
     std::string header, ones, row;
     for (std::size_t i = 0; i < values.size(); ++i) {
         header += (i ? ",v" : "v") + std::to_string(i);
@@ -178,7 +194,8 @@ TEST(CsvSheet, QuotesLateInAWideFile)
 
     EXPECT_EQ(Refusal(csv + first1998 + ",\"open,3\n"), "t.csv line 55: a quoted value is not closed");
     EXPECT_EQ(Refusal(csv + "1,2\n"), "t.csv line 55, column 3: 2 values where the header names 2000 variables");
-    EXPECT_EQ(Refusal(header + ",V1234\n"), "t.csv line 1, column 2001: variable name \"V1234\" is already used in column 1235");
+    EXPECT_EQ(Refusal(header + ",V1234\n"),
+              "t.csv line 1, column 2001: variable name \"V1234\" is already used in column 1235");
 }
 
 TEST(CsvSheet, RowsAcrossTheEndOfAReadBlock)
@@ -204,7 +221,8 @@ TEST(CsvSheet, RowsAcrossTheEndOfAReadBlock)
     EXPECT_EQ(Load(across("3,\xC3\xA9\n", 3)).GetVariableType(1), NmsEnum::VT_STRING); // a character split in two
     EXPECT_EQ(Refusal(across("3,\xE9x\n", 2)),
               "t.csv line " + line + ", column 2: bytes that are not UTF-8 (save the file as UTF-8)");
-    EXPECT_EQ(Refusal(across("3\n", 1)), "t.csv line " + line + ", column 2: 1 values where the header names 2 variables");
+    EXPECT_EQ(Refusal(across("3\n", 1)),
+              "t.csv line " + line + ", column 2: 1 values where the header names 2 variables");
     EXPECT_EQ(Refusal(across("3,4,5\n", 3)),
               "t.csv line " + line + ", column 3: more values than the header names variables (2)");
 }

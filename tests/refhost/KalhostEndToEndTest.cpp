@@ -210,13 +210,15 @@ TEST(KalhostScripts, EveryCommandOfAPlayIsCheckedBeforeTheFirstDialogOpens)
 {
     TempDir dir;
     const std::string store = dir.Path() + "/s.store";
-    const auto r = Kalhost({"--store", store, "play", "-"}, "open 2008\nselect 1075 Y\nclick 1067\nok\n\nopen 4242\nok\n");
+    const auto r =
+        Kalhost({"--store", store, "play", "-"}, "open 2008\nselect 1075 Y\nclick 1067\nok\n\nopen 4242\nok\n");
     EXPECT_EQ(r.status, 2);
     EXPECT_EQ(r.out, ""); // nothing ran
     EXPECT_EQ(r.err, "kalhost: standard input line 6: no menu command 4242\n");
 
     // A failure after confirmed work keeps that work in the store.
-    const auto later = Kalhost({"--store", store, "play", "-"}, "open 2008\nselect 1075 Y\nclick 1067\nok\nopen 2008\nselect 1075 Nope\n");
+    const auto later = Kalhost({"--store", store, "play", "-"},
+                               "open 2008\nselect 1075 Y\nclick 1067\nok\nopen 2008\nselect 1075 Nope\n");
     EXPECT_EQ(later.status, 2);
     EXPECT_NE(Kalhost({"--store", store, "commands", "2008"}).out.find("DEPEND Y\n"), std::string::npos);
 }
@@ -295,7 +297,8 @@ TEST(KalhostData, BadDataFilesAreRefusedWithFileLineAndColumn)
         EXPECT_NE(r.err.find(message), std::string::npos) << r.err;
         EXPECT_EQ(r.out, "");
     }
-    const auto plants = Kalhost({"--data", Sample("plants.csv"), "--categorical", "dose", "play", Sample("plants.kal")});
+    const auto plants =
+        Kalhost({"--data", Sample("plants.csv"), "--categorical", "dose", "play", Sample("plants.kal")});
     EXPECT_EQ(plants.status, 0) << plants.err;
     EXPECT_NE(plants.out.find("CATEGORY dose soil$ / REPLACE\n"), std::string::npos);
 }
@@ -331,7 +334,8 @@ TEST(KalhostWindow, ScreenshotsRenderWithoutADisplayAndOkStillRuns)
     char start[3] = {};
     jpg.read(start, sizeof start);
     EXPECT_EQ(std::string(start, 3), "\xFF\xD8\xFF");
-    const auto unknown = Kalhost({"open", "2008", "--gui", "--screenshot", dir.Path() + "/anova.nope", "--actions", script});
+    const auto unknown =
+        Kalhost({"open", "2008", "--gui", "--screenshot", dir.Path() + "/anova.nope", "--actions", script});
     EXPECT_EQ(unknown.status, 2);
     EXPECT_NE(unknown.err.find("the file name's extension chooses the format"), std::string::npos) << unknown.err;
 }

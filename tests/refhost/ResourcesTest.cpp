@@ -39,9 +39,11 @@ TEST(Resources, MalformedFilesNameTheFileAndTheProblem)
         {"{\"strings\": {\"12\": }", "parse error"},
         {"{\"strings\": {\"x1\": \"a\"}}", "\"x1\" is not a resource id"},
         {"{\"strings\": {\"1\": 5}}", "expected a text"},
-        {"{\"dialogs\": [{\"id\": 1, \"size\": [10, 10], \"controls\": [{\"id\": 2, \"kind\": \"knob\", \"rect\": [0,0,1,1]}]}]}",
+        {"{\"dialogs\": [{\"id\": 1, \"size\": [10, 10], \"controls\": [{\"id\": 2, \"kind\": \"knob\", \"rect\": "
+         "[0,0,1,1]}]}]}",
          "unknown kind"},
-        {"{\"dialogs\": [{\"id\": 1, \"size\": [10, 10], \"controls\": [{\"id\": 2, \"kind\": \"edit\", \"rect\": [0,0,1,1]},"
+        {"{\"dialogs\": [{\"id\": 1, \"size\": [10, 10], \"controls\": [{\"id\": 2, \"kind\": \"edit\", \"rect\": "
+         "[0,0,1,1]},"
          " {\"id\": 2, \"kind\": \"edit\", \"rect\": [0,0,1,1]}]}]}",
          "id used twice"},
         {"{\"menus\": [{\"text\": \"M\", \"items\": [{\"text\": \"X\", \"id\": 5}]}]}", "has no handler"},

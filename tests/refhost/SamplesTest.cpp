@@ -20,12 +20,12 @@ struct Sample {
     std::string script;
     std::string data; // a data file under samples/, or none
     std::string lines;
-    std::string id;             // the command the last session ran
-    std::string stored;         // what `commands ID` writes after a restart
-    std::string reopenActions;  // reopening after a restart: checks of what the dialog shows
+    std::string id;            // the command the last session ran
+    std::string stored;        // what `commands ID` writes after a restart
+    std::string reopenActions; // reopening after a restart: checks of what the dialog shows
     int reopenStatus;
-    std::string reopenError;    // part of the message, when it fails
-    std::string reopenLines;    // what its OK writes
+    std::string reopenError; // part of the message, when it fails
+    std::string reopenLines; // what its OK writes
 };
 
 const char* const kStepwiseLines = "REGRESS\n"
@@ -55,14 +55,16 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          0, "", "CORR\nPEARSON Y Y2 X X2 / EM T = 8 SAMPLE = BOOT(500)\n"},
         {"regression.kal", "",
          std::string("REGRESS\nMODEL Y = CONSTANT+X+X2\nSAVE 'residuals.kvd' / RESIDUALS\n"
-                     "ESTIMATE / CONFI = 0.9 NTEST = SW\n") + kStepwiseLines,
+                     "ESTIMATE / CONFI = 0.9 NTEST = SW\n") +
+             kStepwiseLines,
          "2051", kStepwiseLines,
          "expect items 4103 X X2 W\npage 1\nexpect checked 4172 1\nexpect text 4153 5\nexpect enabled 4151 0\n"
          "page 3\nexpect enabled 4176 0\ncancel\n",
          1, "", ""},
         {"logit.kal", "commute.csv",
          std::string("LOGIT\nCATEGORY region / DUMMY REF = FIRST\nMODEL car = CONSTANT+income+age+region\n"
-                     "ESTIMATE / ITER = 100\nDECILE / GROUPS = 8\n") + kChoiceLines,
+                     "ESTIMATE / ITER = 100\nDECILE / GROUPS = 8\n") +
+             kChoiceLines,
          "2004", kChoiceLines,
          // With choice sets the deciles page is out of use.
          "expect items 2684 cost1 cost2 cost3\nexpect text 2694 0.9\npage 2\nexpect checked 2727 1\npage 3\n"
@@ -72,7 +74,8 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "QC\nSHEWHART weight*lot / TYPE=XBAR SLIMITS=3,3  TEST = 1 2 \n"
          "QC\nSHEWHART defective*lot / TYPE=P CENTER=0.15 PLIMITS=0.005,0.995  TEST = 1 2 \n",
          "", "", "", 1, "", ""},
-        {"xmr.kal", "fill-weights.csv", "QC\nXMR   weight /  WIDTH = 3  CENTER = 500 SLIMITS=3,3 MEAN \n", "", "", "", 1, "", ""},
+        {"xmr.kal", "fill-weights.csv", "QC\nXMR   weight /  WIDTH = 3  CENTER = 500 SLIMITS=3,3 MEAN \n", "", "", "",
+         1, "", ""},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
@@ -80,8 +83,8 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
         std::vector<std::string> options{"--store", dir.Path() + "/settings.store"};
         if (!sample.data.empty())
             options = Args({"--data", std::string(KAL_SOURCE_DIR) + "/samples/" + sample.data}, options);
-        const auto played =
-            RunProcess(KALHOST_PATH, Args(options, {"play", std::string(KAL_SOURCE_DIR) + "/samples/" + sample.script}));
+        const auto played = RunProcess(
+            KALHOST_PATH, Args(options, {"play", std::string(KAL_SOURCE_DIR) + "/samples/" + sample.script}));
         EXPECT_EQ(played.status, 0) << played.err;
         EXPECT_EQ(played.err, "");
         EXPECT_EQ(played.out, sample.lines);

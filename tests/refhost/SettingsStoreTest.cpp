@@ -1,8 +1,8 @@
 // The settings store file: round trips, entries of unknown classes, and
 // files that cannot be read.
+#include "refhost/SettingsStore.h"
 #include "Source/DlgStat2.h"
 #include "private/Anova/KDGAnovaTabData.h"
-#include "refhost/SettingsStore.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/Process.h"
 

@@ -127,8 +127,7 @@ std::vector<std::string> KeyboardProblems(const DialogTemplate& page, const Dial
             const ControlTemplate* buddy = buddyOf(i);
             if (key && (!buddy || !IsField(buddy->kind)))
                 problems.push_back(where + Describe(c) + ": its mnemonic focuses " +
-                                   (buddy ? Describe(*buddy) : std::string("nothing")) +
-                                   ", not a field it names");
+                                   (buddy ? Describe(*buddy) : std::string("nothing")) + ", not a field it names");
             if (!key && i + 1 < controls.size() && IsField(controls[i + 1].kind))
                 problems.push_back(where + Describe(c) + " names " + Describe(controls[i + 1]) +
                                    " but has no mnemonic");
@@ -166,8 +165,8 @@ std::string Join(const std::vector<std::string>& lines)
 
 ControlTemplate Control(UINT id, ControlKind kind, const char16_t* caption)
 {
-    return ControlTemplate{id, kind, caption, 0, 0, 10, 10, kind == ControlKind::Static ? 0u : DWORD{WS_TABSTOP}, {},
-                           {}};
+    return ControlTemplate{id, kind, caption, 0, 0, 10, 10, kind == ControlKind::Static ? 0u : DWORD{WS_TABSTOP},
+                           {}, {}};
 }
 
 } // namespace
@@ -192,22 +191,26 @@ TEST(TemplateKeyboard, EveryTemplateOfTheResourcesCanBeWorkedFromTheKeyboard)
 
 TEST(TemplateKeyboard, TheRulesFindCollisionsMislabelledAndUnreachableControls)
 {
-    DialogTemplate window{kTabDialogTemplate, u"", 100, 100, {Control(IDOK, ControlKind::PushButton, u"OK"),
-                                                                Control(7, ControlKind::PushButton, u"&Apply")}};
+    DialogTemplate window{
+        kTabDialogTemplate,
+        u"",
+        100,
+        100,
+        {Control(IDOK, ControlKind::PushButton, u"OK"), Control(7, ControlKind::PushButton, u"&Apply")}};
     DialogTemplate page{500, u"", 100, 100, {}};
     page.controls = {
-        Control(0, ControlKind::Static, u"&Variables:"),      // names the list after it
+        Control(0, ControlKind::Static, u"&Variables:"), // names the list after it
         Control(10, ControlKind::List, u""),
-        Control(11, ControlKind::Static, u"&Dependent:"),     // focuses the button, not its list
+        Control(11, ControlKind::Static, u"&Dependent:"), // focuses the button, not its list
         Control(12, ControlKind::PushButton, u"Add >"),
         Control(13, ControlKind::List, u""),
-        Control(14, ControlKind::CheckBox, u"&All"),          // Alt+A again: the window's Apply
-        Control(15, ControlKind::Edit, u""),                  // one Tab after All
+        Control(14, ControlKind::CheckBox, u"&All"), // Alt+A again: the window's Apply
+        Control(15, ControlKind::Edit, u""),         // one Tab after All
         Control(16, ControlKind::GroupBox, u"&Limits"),
-        Control(17, ControlKind::Static, u"Lower:"),          // names the edit, no mnemonic
+        Control(17, ControlKind::Static, u"Lower:"), // names the edit, no mnemonic
         Control(18, ControlKind::Edit, u""),
-        Control(19, ControlKind::RadioButton, u"Fixed"),      // no mnemonic of its own
-        Control(20, ControlKind::Static, u"Tally &&Co"),      // a plain '&', no mnemonic
+        Control(19, ControlKind::RadioButton, u"Fixed"), // no mnemonic of its own
+        Control(20, ControlKind::Static, u"Tally &&Co"), // a plain '&', no mnemonic
         Control(21, ControlKind::PushButton, u"&Reset"),
     };
     const std::vector<std::string> problems = KeyboardProblems(page, &window);

@@ -35,7 +35,10 @@ public:
     bool IsValid() override { return valid; }
     int GetVariableCount() override { return static_cast<int>(variables.size()); }
     CString GetVariableName(int index, int) override { return variables.at(static_cast<std::size_t>(index)).name; }
-    NmsEnum::VARIABLETYPE GetVariableType(int index) override { return variables.at(static_cast<std::size_t>(index)).type; }
+    NmsEnum::VARIABLETYPE GetVariableType(int index) override
+    {
+        return variables.at(static_cast<std::size_t>(index)).type;
+    }
     std::vector<int> GetCategoricalIndexes() override
     {
         std::vector<int> indexes;
@@ -51,7 +54,8 @@ class AssertionCapture {
 public:
     AssertionCapture()
     {
-        m_previous = kal::SetAssertionSink([this](const std::string& file, int line) { reports.emplace_back(file, line); });
+        m_previous =
+            kal::SetAssertionSink([this](const std::string& file, int line) { reports.emplace_back(file, line); });
     }
     ~AssertionCapture() { kal::SetAssertionSink(std::move(m_previous)); }
     AssertionCapture(const AssertionCapture&) = delete;

@@ -39,8 +39,8 @@ TEST_F(AnovaDialog, BuildsTheExampleAnalysisAndWritesItsLines)
         s.Ok();
     });
     EXPECT_EQ(result, IDOK);
-    EXPECT_EQ(Commands(), (Lines16{u"ANOVA", u"DEPEND Y", u"CATEGORY A B$ / REPLACE MISS", u"COVAR X",
-                                   u"ESTIMATE / SS = TYPE3"}));
+    EXPECT_EQ(Commands(),
+              (Lines16{u"ANOVA", u"DEPEND Y", u"CATEGORY A B$ / REPLACE MISS", u"COVAR X", u"ESTIMATE / SS = TYPE3"}));
 }
 
 TEST_F(AnovaDialog, RepeatedMeasuresJoinTheDependLineOnlyWithTwoDependents)
@@ -238,7 +238,7 @@ TEST_F(AnovaDialog, LevelValidationRefusesOkWithItsMessage)
     struct Case {
         int dependents;
         std::vector<std::pair<int, std::u16string>> levels; // grid row, levels text
-        UINT message;                                        // 0: accepted
+        UINT message;                                       // 0: accepted
     };
     const Case cases[] = {
         {2, {{1, u"3"}}, 2007},

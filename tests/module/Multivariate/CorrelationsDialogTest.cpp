@@ -61,7 +61,8 @@ TEST_F(CorrelationsDialog, OneSetOfContinuousDataAndWhatTwoSetsAndSavingChange)
 
         const std::initializer_list<UINT> offAtFirst = {Page0::IDC_COLUMN_LIST, Page0::IDC_COLUMN_LABEL,
                                                         Page0::IDC_ADD_COLUMNS, Page0::IDC_SAVE_FILE_EDIT,
-                                                        TypeCombo(1), TypeCombo(2), TypeCombo(3), TypeCombo(4)};
+                                                        TypeCombo(1),           TypeCombo(2),
+                                                        TypeCombo(3),           TypeCombo(4)};
         for (const UINT id : offAtFirst)
             EXPECT_FALSE(s.IsEnabled(id)) << id;
         EXPECT_TRUE(s.IsEnabled(TypeCombo(0)));
@@ -218,9 +219,9 @@ TEST_F(CorrelationsDialog, OptionRulesFollowThePearsonChoiceAndEachOther)
     Run([this](CHeadlessSession& s) {
         s.Page(1);
         EXPECT_TRUE(s.IsEnabled(Options::IDC_PROBABILITIES));
-        for (const UINT id : {Options::IDC_BONFERRONI, Options::IDC_NORMAL, Options::IDC_T, Options::IDC_ITERATIONS,
-                              Options::IDC_CONVERGENCE, Options::IDC_NORMAL_FIRST, Options::IDC_DF,
-                              Options::IDC_TOLERANCE})
+        for (const UINT id :
+             {Options::IDC_BONFERRONI, Options::IDC_NORMAL, Options::IDC_T, Options::IDC_ITERATIONS,
+              Options::IDC_CONVERGENCE, Options::IDC_NORMAL_FIRST, Options::IDC_DF, Options::IDC_TOLERANCE})
             EXPECT_FALSE(s.IsEnabled(id)) << id;
         s.Check(Options::IDC_PROBABILITIES, 1);
         EXPECT_TRUE(s.IsEnabled(Options::IDC_DUNN_SIDAK));
@@ -417,6 +418,6 @@ TEST_F(CorrelationsDialog, ImpossibleStatesAreReportedWithTheirSourceAndLine)
     options.SetData(&optionsData);
     EXPECT_EQ(options.DoModal(), IDOK);
     EXPECT_EQ(capture.reports, (std::vector<std::pair<std::string, int>>{{"Source/KDGCorrelationsDlg", 1427},
-                                                                          {"Source/KDGCorrOptionsDlg", 562},
-                                                                          {"Source/KDGCorrOptionsDlg", 625}}));
+                                                                         {"Source/KDGCorrOptionsDlg", 562},
+                                                                         {"Source/KDGCorrOptionsDlg", 625}}));
 }

@@ -57,8 +57,9 @@ TEST_F(ChartDialog, ShewhartBuildsItsChartAndWritesItsLines)
         s.Ok();
     });
     EXPECT_EQ(result, IDOK);
-    EXPECT_EQ(Commands(shewhart),
-              (Lines16{u"QC", u"SHEWHART T1 T2*Lot Shift$ / TYPE=RANGE SLIMITS=2.5, AVGN TOTAL  TEST = 1 3 4 5 6 7 8 "}));
+    EXPECT_EQ(
+        Commands(shewhart),
+        (Lines16{u"QC", u"SHEWHART T1 T2*Lot Shift$ / TYPE=RANGE SLIMITS=2.5, AVGN TOTAL  TEST = 1 3 4 5 6 7 8 "}));
 }
 
 TEST_F(ChartDialog, ListsTakeTheirKindsOfVariablesAndAMedianChartNoFrequency)
@@ -133,7 +134,7 @@ TEST_F(ChartDialog, AggAndTotalAreOfferedWhereTheyApplyAndCountOnlyThen)
     RunShewhart([](CHeadlessSession& s) {
         Move(s, S::IDC_SOURCE_LIST, {u"Y"}, S::IDC_ADD_CHART);
         Move(s, S::IDC_SOURCE_LIST, {u"W"}, S::IDC_ADD_FREQUENCY);
-        EXPECT_FALSE(s.IsEnabled(S::IDC_AGG_CHECK)); // X-bar
+        EXPECT_FALSE(s.IsEnabled(S::IDC_AGG_CHECK));   // X-bar
         EXPECT_FALSE(s.IsEnabled(S::IDC_TOTAL_CHECK)); // one chart variable
         s.Choose(S::IDC_CHART_TYPE_COMBO, NP);
         EXPECT_TRUE(s.IsEnabled(S::IDC_AGG_CHECK));

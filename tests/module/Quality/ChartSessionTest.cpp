@@ -43,8 +43,8 @@ TEST(ChartSession, ChoicesSurviveARestartButTheKnownCenterIsInUseForTheSessionOn
 
     // Whether the known center is in use belongs to the page, not to the
     // record: after a restart its check is clear and its value is kept.
-    const auto center = Kalhost({"--store", store, "open", "2041", "--actions", "-"},
-                                "check 4392 1\ntype 4368 7\nok\n");
+    const auto center =
+        Kalhost({"--store", store, "open", "2041", "--actions", "-"}, "check 4392 1\ntype 4368 7\nok\n");
     EXPECT_NE(center.out.find(" CENTER=7"), std::string::npos) << center.out;
     EXPECT_EQ(Kalhost({"--store", store, "commands", "2041"}).out.find("CENTER"), std::string::npos);
     const auto reopened = Kalhost({"--store", store, "open", "2041", "--actions", "-"},
