@@ -28,6 +28,11 @@ struct Sample {
     std::string reopenLines; // what its OK writes
 };
 
+const char* const kRepeatedLines = "ANOVA\n"
+                                   "DEPEND T1 T2 T3/ REPEAT = 3, NAMES = harvest\n"
+                                   "CATEGORY A B / REPLACE\n"
+                                   "COVAR \n"
+                                   "ESTIMATE / NTEST = SW HTEST = LEVENE SS = TYPE3\n";
 const char* const kStepwiseLines = "REGRESS\n"
                                    "MODEL Y = CONSTANT+X+X2+W\n"
                                    "SAVE 'residuals.kvd' / RESIDUALS\n"
@@ -44,6 +49,11 @@ const char* const kChoiceLines = "LOGIT\n"
 TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
 {
     const Sample samples[] = {
+        {"anova-repeated.kal", "", kRepeatedLines, "2008", kRepeatedLines,
+         // Reopened, the model and both pages show the last choices.
+         "expect items 1071 T1 T2 T3\npage 1\nexpect checked 4193 1\npage 2\nexpect checked 1087 1\n"
+         "expect checked 1081 1\nok\n",
+         0, "", kRepeatedLines},
         {"correlations.kal", "",
          "CORR\nSAVE 'harvests.kvd'\nPEARSON T1 T2 T3 / PAIRWISE BONF\nCORR\nSPEARMAN Y Y2*X X2 / EM T = 8\n"
          "CORR\nCITYBLOCK Y Y2 X X2 / SAMPLE = BOOT(500)\n",
