@@ -60,21 +60,14 @@ TEST(ValueHolderArchive, ADefaultReadBackComparesEqualFieldByField)
 TEST(VariableListArchive, PlainLayoutIsCountThenTwentyFourByteBlocks)
 {
     auto list = TwoVariables();
+    // A row per variable.
+    // clang-format off
     const Bytes expected = Cat({
         {0x02, 0x00},
-        Int32(0),
-        Int32(0),
-        Int32(1),
-        Int32(3),
-        Int32(0),
-        Int32(0),
-        Int32(0),
-        Int32(0),
-        Int32(3),
-        Int32(7),
-        Int32(0),
-        Int32(1),
+        Int32(0), Int32(0), Int32(1), Int32(3), Int32(0), Int32(0),
+        Int32(0), Int32(0), Int32(3), Int32(7), Int32(0), Int32(1),
     });
+    // clang-format on
     EXPECT_EQ(Store([&](CArchive& ar) { list.Serialize(ar); }), expected);
 
     CGUIArray<CGUIDataVariable> back;
@@ -128,22 +121,16 @@ TEST(VariableListArchive, ALongListIsTheSameThroughADiskFileAndAMemoryFile)
 TEST(VariableListArchive, NamedLayoutKeepsNamesAndLabels)
 {
     auto list = TwoVariables();
+    // A row per variable.
+    // clang-format off
     const Bytes expected = Cat({
         {0x02, 0x00},
-        {0xFF, 0xFE, 0xFF, 0x01},
-        Units(1, u'Y'),
-        Int32(1),
-        Int32(3),
-        {0xFF, 0xFE, 0xFF, 0x05},
-        {'y', 0, 'i', 0, 'e', 0, 'l', 0, 'd', 0},
-        Int32(0),
-        {0xFF, 0xFE, 0xFF, 0x02},
-        {'B', 0, '$', 0},
-        Int32(3),
-        Int32(7),
-        {0xFF, 0xFE, 0xFF, 0x00},
-        Int32(1),
+        {0xFF, 0xFE, 0xFF, 0x01}, Units(1, u'Y'), Int32(1), Int32(3),
+        {0xFF, 0xFE, 0xFF, 0x05}, {'y', 0, 'i', 0, 'e', 0, 'l', 0, 'd', 0}, Int32(0),
+        {0xFF, 0xFE, 0xFF, 0x02}, {'B', 0, '$', 0}, Int32(3), Int32(7),
+        {0xFF, 0xFE, 0xFF, 0x00}, Int32(1),
     });
+    // clang-format on
     EXPECT_EQ(Store([&](CArchive& ar) { list.Serialize(ar); }, CArchive::namedLists), expected);
     CGUIArray<CGUIDataVariable> back;
     Load(expected, CArchive::namedLists, [&](CArchive& ar) { back.Serialize(ar); });

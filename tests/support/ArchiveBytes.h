@@ -9,6 +9,7 @@
 #include <cstring>
 #include <initializer_list>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -75,6 +76,24 @@ inline Bytes Float64(double v)
 {
     Bytes bytes(8);
     std::memcpy(bytes.data(), &v, 8);
+    return bytes;
+}
+
+// A WORD, little-endian: the counts and marks of list records.
+inline Bytes Word(std::uint16_t v)
+{
+    return {static_cast<BYTE>(v), static_cast<BYTE>(v >> 8)};
+}
+
+// A CString of fewer than 255 units as the archive writes it: the UTF-16
+// mark, a length byte, the units.
+inline Bytes Text(std::u16string_view text)
+{
+    Bytes bytes{0xFF, 0xFE, 0xFF, static_cast<BYTE>(text.size())};
+    for (const char16_t unit : text) {
+        bytes.push_back(static_cast<BYTE>(unit & 0xFF));
+        bytes.push_back(static_cast<BYTE>(unit >> 8));
+    }
     return bytes;
 }
 

@@ -237,25 +237,9 @@ TEST_F(CorrelationsSettings, RecordBytesFollowTheStoredFieldOrder)
     rows.Add(CGUIDataVariable(u"X", NmsEnum::VT_NUMERIC, 7));
     page.SetAll(Vars({}), rows, Vars({}), 1, 1, 2, 1, 2, 1, 3, 2, 4, u"c.kvd");
     // The nine choices, the file name, then source, rows and columns.
-    const Bytes pageBytes = Cat({Int32(1),
-                                 Int32(1),
-                                 Int32(2),
-                                 Int32(1),
-                                 Int32(2),
-                                 Int32(1),
-                                 Int32(3),
-                                 Int32(2),
-                                 Int32(4),
-                                 {0xFF, 0xFE, 0xFF, 0x05, 'c', 0, '.', 0, 'k', 0, 'v', 0, 'd', 0},
-                                 {0x00, 0x00},
-                                 {0x01, 0x00},
-                                 Int32(0),
-                                 Int32(0),
-                                 Int32(1),
-                                 Int32(7),
-                                 Int32(0),
-                                 Int32(0),
-                                 {0x00, 0x00}});
+    const Bytes pageBytes =
+        Cat({Int32(1), Int32(1), Int32(2), Int32(1), Int32(2), Int32(1), Int32(3), Int32(2), Int32(4), Text(u"c.kvd"),
+             Word(0), Word(1), Int32(0), Int32(0), Int32(1), Int32(7), Int32(0), Int32(0), Word(0)});
     EXPECT_EQ(Store([&](CArchive& ar) { page.Serialize(ar); }), pageBytes);
 
     CCorrOptionsData options;

@@ -242,32 +242,12 @@ TEST_F(ChartSettings, ShewhartRecordKeepsItsOrderAndLeavesThePagesIntegersOut)
     s.Into(chart);
 
     const Bytes zero = DataRecord(1, 2, 0.0, 0.0, 1);
-    const Bytes expected = Cat({Int32(1),
-                                Int32(0),
-                                Int32(1),
-                                Int32(0),
-                                Int32(1),
-                                Int32(4),
-                                // source (one element block), group, chart, frequency
-                                {0x01, 0x00},
-                                Int32(0),
-                                Int32(0),
-                                Int32(1),
-                                Int32(2),
-                                Int32(0),
-                                Int32(0),
-                                {0x00, 0x00},
-                                {0x00, 0x00},
-                                {0x00, 0x00},
-                                // center, sigma, probability, preset and sigma bounds
-                                zero,
-                                DataRecord(0, 2, 0.0, 1.5, 1),
-                                zero,
-                                zero,
-                                zero,
-                                DataRecord(0, 2, 0.0, 8.0, 1),
-                                zero,
-                                zero});
+    const Bytes expected =
+        Cat({Int32(1), Int32(0), Int32(1), Int32(0), Int32(1), Int32(4),
+             // source (one element block), group, chart, frequency
+             Word(1), Int32(0), Int32(0), Int32(1), Int32(2), Int32(0), Int32(0), Word(0), Word(0), Word(0),
+             // center, sigma, probability, preset and sigma bounds
+             zero, DataRecord(0, 2, 0.0, 1.5, 1), zero, zero, zero, DataRecord(0, 2, 0.0, 8.0, 1), zero, zero});
     EXPECT_EQ(Store([&](CArchive& ar) { chart.Serialize(ar); }), expected);
 
     CShewhartData back;
@@ -296,30 +276,12 @@ TEST_F(ChartSettings, XMrAndRunTestsRecordsKeepTheirOrder)
     x.limits = 1;
     x.Into(chart);
     const Bytes zero = DataRecord(1, 0, 0.0, 0.0, 1);
-    const Bytes expected = Cat({Int32(1),
-                                Int32(1),
-                                {0x00, 0x00},
-                                {0x01, 0x00},
-                                Int32(0),
-                                Int32(0),
-                                Int32(1),
-                                Int32(0),
-                                Int32(0),
-                                Int32(0),
-                                // width: state, flag 1, default, value, flag 2
-                                Int32(0),
-                                Int32(0),
-                                Int32(2),
-                                Int32(4),
-                                Int32(1),
-                                // center, MR, sigma, probability and sigma bounds
-                                zero,
-                                DataRecord(0, 0, 0.0, 1.25, 1),
-                                zero,
-                                zero,
-                                zero,
-                                zero,
-                                zero});
+    const Bytes expected =
+        Cat({Int32(1), Int32(1), Word(0), Word(1), Int32(0), Int32(0), Int32(1), Int32(0), Int32(0), Int32(0),
+             // width: state, flag 1, default, value, flag 2
+             Int32(0), Int32(0), Int32(2), Int32(4), Int32(1),
+             // center, MR, sigma, probability and sigma bounds
+             zero, DataRecord(0, 0, 0.0, 1.25, 1), zero, zero, zero, zero, zero});
     EXPECT_EQ(Store([&](CArchive& ar) { chart.Serialize(ar); }), expected);
 
     CQcTestsData tests;

@@ -370,29 +370,10 @@ TEST_F(LogitSettings, ModelRecordBytes)
     // confidence state, sets present; the file name; the source, dependent,
     // independent and conditional lists; the confidence (state, flag,
     // default, value, flag).
-    const Bytes expected = Cat({Int32(0),
-                                Int32(1),
-                                Int32(1),
-                                Int32(0),
-                                Int32(2),
-                                Int32(1),
-                                Int32(1),
-                                {0xFF, 0xFE, 0xFF, 0x01, 'r', 0},
-                                {0x00, 0x00},
-                                {0x00, 0x00},
-                                {0x00, 0x00},
-                                {0x01, 0x00},
-                                Int32(0),
-                                Int32(0),
-                                Int32(1),
-                                Int32(4),
-                                Int32(0),
-                                Int32(0),
-                                Int32(0),
-                                Int32(0),
-                                {0x66, 0x66, 0x66, 0x66, 0x66, 0x66, 0xEE, 0x3F},
-                                {0, 0, 0, 0, 0, 0, 0xE0, 0x3F},
-                                Int32(1)});
+    const Bytes expected =
+        Cat({Int32(0), Int32(1), Int32(1), Int32(0), Int32(2),      Int32(1),     Int32(1), Text(u"r"),
+             Word(0),  Word(0),  Word(0),  Word(1),  Int32(0),      Int32(0),     Int32(1), Int32(4),
+             Int32(0), Int32(0), Int32(0), Int32(0), Float64(0.95), Float64(0.5), Int32(1)});
     EXPECT_EQ(Store([&](CArchive& ar) { model.Serialize(ar); }), expected);
 
     CLogitData back;

@@ -313,22 +313,9 @@ TEST_F(RegressionSettings, ModelRecordBytes)
     model.SetAll(source, Vars({}), Vars({}), Changed(50, 0), {0, 1}, 1, 3, u"r.kvd", 1);
     // base: nothing; save check, save index, file name, state word; then the
     // constant (value, window state), source, dependent, independent, cases.
-    const Bytes expected = Cat({Int32(1),
-                                Int32(3),
-                                {0xFF, 0xFE, 0xFF, 0x05, 'r', 0, '.', 0, 'k', 0, 'v', 0, 'd', 0},
-                                Int32(1),
-                                Int32(0),
-                                Int32(1),
-                                {0x01, 0x00},
-                                Int32(0),
-                                Int32(0),
-                                Int32(1),
-                                Int32(4),
-                                Int32(0),
-                                Int32(0),
-                                {0x00, 0x00},
-                                {0x00, 0x00},
-                                DataRecord(0, 0, 0, 50)});
+    const Bytes expected =
+        Cat({Int32(1), Int32(3), Text(u"r.kvd"), Int32(1), Int32(0), Int32(1), Word(1), Int32(0), Int32(0), Int32(1),
+             Int32(4), Int32(0), Int32(0), Word(0), Word(0), DataRecord(0, 0, 0, 50)});
     EXPECT_EQ(Store([&](CArchive& ar) { model.Serialize(ar); }), expected);
 
     CRegressionData back;
@@ -379,12 +366,7 @@ TEST_F(RegressionSettings, PredictionRecordBytes)
     CRegressionPredictData predict;
     predict.SetAll(u"u", u"pv", CGUIData<double>(0, 0.5, 0.95, 0, 1), 1, 0, 1);
     // use file, save file, predict, save, save index, then the confidence.
-    const Bytes expected = Cat({{0xFF, 0xFE, 0xFF, 0x01, 'u', 0},
-                                {0xFF, 0xFE, 0xFF, 0x02, 'p', 0, 'v', 0},
-                                Int32(1),
-                                Int32(0),
-                                Int32(1),
-                                DataRecord(0, 0, 0.95, 0.5)});
+    const Bytes expected = Cat({Text(u"u"), Text(u"pv"), Int32(1), Int32(0), Int32(1), DataRecord(0, 0, 0.95, 0.5)});
     EXPECT_EQ(Store([&](CArchive& ar) { predict.Serialize(ar); }), expected);
     CRegressionPredictData back;
     Load(expected, [&](CArchive& ar) { back.Serialize(ar); });
