@@ -41,16 +41,14 @@ struct MenuCommandRow {
     bool IsAvailable() const { return launch != nullptr; }
 };
 
+// Each row is one braced initialiser, on one line as the tables read.
+// clang-format off
 // A row whose dialog and settings classes are part of the module.
-#define KAL_MENU_ROW(id, Dlg, Data, ...)                                                    \
-    {                                                                                       \
-        id, #Dlg, #Data, {__VA_ARGS__}, &LaunchDialog<Dlg, Data>, &ConfirmDialog<Dlg, Data> \
-    }
+#define KAL_MENU_ROW(id, Dlg, Data, ...) \
+    {id, #Dlg, #Data, {__VA_ARGS__}, &LaunchDialog<Dlg, Data>, &ConfirmDialog<Dlg, Data>}
 // A row of the menu table whose analysis this module does not hold yet.
-#define KAL_MENU_ROW_UNAVAILABLE(id, Dlg, Data, ...)     \
-    {                                                    \
-        id, #Dlg, #Data, {__VA_ARGS__}, nullptr, nullptr \
-    }
+#define KAL_MENU_ROW_UNAVAILABLE(id, Dlg, Data, ...) {id, #Dlg, #Data, {__VA_ARGS__}, nullptr, nullptr}
+// clang-format on
 
 class CMenuGroupMsg : public CKVMsg {
 public:

@@ -182,19 +182,20 @@ void CopyIn(Owner& object, std::index_sequence<I...>, const In&... in)
     (CopyUnlessSame(in, object.*std::get<I>(fields).member), ...);
 }
 
+template <class Table, class... Args, std::size_t... I>
+constexpr bool SameTypes(std::index_sequence<I...>)
+{
+    return (std::is_same_v<typename std::tuple_element_t<I, Table>::Type, std::remove_cvref_t<Args>> && ...);
+}
+
 template <class Owner, class... Args>
 constexpr bool MatchesFields()
 {
     using Table = decltype(Owner::Fields());
-    if constexpr (std::tuple_size_v<Table> != sizeof...(Args)) {
+    if constexpr (std::tuple_size_v<Table> != sizeof...(Args))
         return false;
-    } else {
-        return []<std::size_t... I>(std::index_sequence<I...>)
-        {
-            return (std::is_same_v<typename std::tuple_element_t<I, Table>::Type, std::remove_cvref_t<Args>> && ...);
-        }
-        (std::index_sequence_for<Args...>{});
-    }
+    else
+        return SameTypes<Table, Args...>(std::index_sequence_for<Args...>{});
 }
 
 } // namespace detail
@@ -245,10 +246,12 @@ inline void SerializeValue(CArchive& ar, CString& value)
         ar >> value;
 }
 template <class T>
-requires requires(T& t, CArchive& ar)
+concept SerializesItself = requires(T& t, CArchive& ar)
 {
     t.Serialize(ar);
-}
+};
+
+template <SerializesItself T>
 void SerializeValue(CArchive& ar, T& holder)
 {
     holder.Serialize(ar);
