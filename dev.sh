@@ -102,8 +102,9 @@ TEXT
         fi
     }
     local id class title page script name caption
-    for id in $("$k" list | awk '$NF == "available" && $(NF-1) != "not" {print $1}'); do
-        class=$("$k" list | awk -v id="$id" '$1 == id {print $3}')
+    # The menu path has blanks: fields are counted from the status at the end.
+    for id in $("$k" list --available | awk '$NF == "available" && $(NF-1) != "not" {print $1}'); do
+        class=$("$k" list --available | awk -v id="$id" '$1 == id {print $(NF-2)}')
         title=$(sed -n "s/^## \(.*($id).*\)$/\1/p" docs/commands.md | head -n 1)
         if [ -z "$title" ]; then
             printf '\n## %s (%s)\n' "$class" "$id" >>"$md"

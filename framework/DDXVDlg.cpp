@@ -60,10 +60,9 @@ void CDDXVDlg::ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, U
     }
     T parsed{};
     const Parsed result = Parse(control->GetWindowText(), parsed);
-    if (result != Parsed::ok || !IsFinite(parsed)) {
-        AfxMessageBox(result == Parsed::outOfRange ? kMsgOutOfRange : messageId);
-        pDX->Fail();
-    }
+    if (result != Parsed::ok || !IsFinite(parsed))
+        pDX->FailEntry(id, result == Parsed::outOfRange ? kMsgOutOfRange : messageId,
+                       NumberRule{std::is_integral_v<T>});
     value.m_Value = parsed;
     value.m_nState = value.m_Value == value.m_DefaultValue ? 1 : 0;
 }
@@ -131,18 +130,15 @@ void CDDXVDlg::DDV_MinMaxDouble(CDataExchange* pDX, const CGUIData<double>& valu
     const double v = value.m_Value;
     const bool belowMin = bMinOpen ? v <= min.m_Value : v < min.m_Value;
     const bool aboveMax = bMaxOpen ? v >= max.m_Value : v > max.m_Value;
-    if (belowMin || aboveMax) {
-        AfxMessageBox(messageId);
-        pDX->Fail();
-    }
+    if (belowMin || aboveMax)
+        pDX->FailEntry(pDX->m_idLastControl, messageId,
+                       {false, true, min.m_Value, max.m_Value, bMinOpen != 0, bMaxOpen != 0});
 }
 
 void CDDXVDlg::DDV_MinMaxInt(CDataExchange* pDX, const CGUIData<int>& value, int min, int max, UINT messageId)
 {
-    if (pDX->m_bSaveAndValidate && (value.m_Value < min || value.m_Value > max)) {
-        AfxMessageBox(messageId);
-        pDX->Fail();
-    }
+    if (pDX->m_bSaveAndValidate && (value.m_Value < min || value.m_Value > max))
+        pDX->FailEntry(pDX->m_idLastControl, messageId, NumberRule::Between(min, max, true));
 }
 
 void CDDXVDlg::DDX_Text(CDataExchange* pDX, UINT id, CString& value, int nMaxChars, int bNotEmpty, int bTrim,
@@ -210,6 +206,12 @@ void CDDXVDlg::DDX_ControlWarn(CDataExchange* pDX, UINT id, UINT messageId)
     pDX->m_idLastControl = id;
     AfxMessageBox(messageId);
     pDX->Fail();
+}
+
+void CDDXVDlg::DDX_ControlWarn(CDataExchange* pDX, UINT id, UINT messageId, const NumberRule& rule)
+{
+    if (pDX->m_bSaveAndValidate && messageId != 0)
+        pDX->FailEntry(id, messageId, rule);
 }
 
 void CDDXVDlg::DDX_FileEditCtrl(CDataExchange* pDX, UINT id, CFileEditCtrl& control, CString& fileName, int bSaveDialog,

@@ -47,6 +47,8 @@ public:
                                   int bKeepSelection, int bSort);
     // When storing, warns with `messageId` unless it is 0 (valid).
     static void DDX_ControlWarn(CDataExchange* pDX, UINT id, UINT messageId);
+    // The same for a number: the message says what the field takes.
+    static void DDX_ControlWarn(CDataExchange* pDX, UINT id, UINT messageId, const NumberRule& rule);
     // The file edit control `control` on `id` with its file name and the
     // options of its file dialog.
     static void DDX_FileEditCtrl(CDataExchange* pDX, UINT id, CFileEditCtrl& control, CString& fileName,

@@ -3,6 +3,7 @@
 #include "framework/Fields.h"
 #include "framework/GUITabCtrl.h"
 #include "framework/GUITabDlg.h"
+#include "framework/HostLink.h"
 #include "host/KalAssertDlg.h"
 
 #include <unordered_set>
@@ -401,7 +402,31 @@ void CGUIBaseDlg::UpdateDependentWindows()
     for (const auto& row : m_roleLists) {
         EnableCtrl(row.add, CanAdd(row));
         EnableCtrl(row.remove, CanRemove(row));
+        ExplainStringsRefused(row);
     }
+}
+
+void CGUIBaseDlg::ExplainStringsRefused(const CRoleList& row)
+{
+    CWnd* button = GetDlgItem(row.add);
+    if (!button)
+        return;
+    const bool refused = m_pSourceList && row.acceptsStrings && !row.acceptsStrings() &&
+                         CGUIListCtrl::IsSelectetVariableTypePresent(m_pSourceList, NmsEnum::VT_STRING);
+    const auto usual = m_usualTips.find(row.add);
+    if (!refused) {
+        if (usual != m_usualTips.end()) {
+            button->SetToolTipText(usual->second);
+            m_usualTips.erase(usual);
+        }
+        return;
+    }
+    if (usual == m_usualTips.end())
+        m_usualTips.emplace(row.add, button->GetToolTipText());
+    CString tip = kal::framework::LoadResourceString(kTipNoStringVariables);
+    const CWnd* list = GetDlgItem(row.list);
+    tip.Replace(u"%1", (list ? GetLabelText(*list) : CString()).Str());
+    button->SetToolTipText(tip);
 }
 
 void CGUIBaseDlg::MoveRoleList(const CRoleList& row, bool add)
@@ -654,15 +679,22 @@ void CGUIBaseDlg::ExchangeNumberField(CDataExchange* pDX, const CFieldExchange& 
         ReadKVText(*control, value);
         return;
     }
+    const bool ranged = field.rangeMessage != 0;
+    const NumberRule rule =
+        ranged ? NumberRule::Between(field.min, field.max, std::is_integral_v<T>) : NumberRule{std::is_integral_v<T>};
+    if (const CWnd* control = GetDlgItem(field.control); pDX->m_bSaveAndValidate && control && ranged) {
+        // Text that is no number is refused with the range too, so that the
+        // message says at once what the field takes.
+        CGUIData<T> probe = value;
+        if (!ReadKVText(*control, probe))
+            pDX->FailEntry(field.control, parseMessage, rule);
+    }
     DDX_KVText(pDX, field.control, value, parseMessage);
-    if (!pDX->m_bSaveAndValidate || field.rangeMessage == 0)
+    if (!pDX->m_bSaveAndValidate || !ranged)
         return;
     const double v = static_cast<double>(value.m_Value);
-    if (v < field.min || v > field.max) {
-        pDX->m_idLastControl = field.control;
-        AfxMessageBox(field.rangeMessage);
-        pDX->Fail();
-    }
+    if (v < field.min || v > field.max)
+        pDX->FailEntry(field.control, field.rangeMessage, rule);
 }
 
 void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIData<int>& value)

@@ -65,6 +65,9 @@ struct CFieldExchange {
 // Messages of the text checks every page shares.
 inline constexpr UINT kMsgTextRequired = 2015;
 inline constexpr UINT kMsgControlCharacter = 2016;
+// The tip of an Add button that a selected string variable keeps grey; %1
+// stands for the target list's label.
+inline constexpr UINT kTipNoStringVariables = 2267;
 
 class CGUIBaseDlg : public CDDXVDlg {
     DECLARE_DYNAMIC(CGUIBaseDlg)
@@ -133,6 +136,9 @@ public:
     // Whether the page is in use (tab dialogs enable pages by it and give
     // the answer to the page's settings as window state at OK).
     virtual BOOL IsWindowEnabled();
+    // Why the page itself is out of use now (its tab is greyed with this
+    // tip), or an empty text; a tab dialog may give reasons of its own.
+    virtual CString GetOutOfUseReason() { return {}; }
     virtual CStringArray GetBitmapList(int first, int count);
     virtual CStringArray GetStringList(int first, int count);
     virtual void OnInPlaceEditDestroyed(CWnd* edit, int row, int column, CString text);
@@ -228,6 +234,9 @@ protected:
     // to the row's list now: the list is enabled and the move possible.
     bool AcceptsDrop(const CRoleList& row);
     bool CanRemove(const CRoleList& row) const;
+    // An Add button kept grey only by a selected string variable says so in
+    // its tip; else it shows the tip it had.
+    void ExplainStringsRefused(const CRoleList& row);
     // Runs the handler bound to a button, as a click would.
     void RunButtonHandler(UINT buttonId);
     void SetRunFlag(bool run) { m_bRun = run; }
@@ -266,6 +275,8 @@ private:
     std::map<UINT, std::unique_ptr<CFileEditCtrl>> m_fileEditCtrls;
     CGUIListCtrl* m_pSourceList = nullptr;
     std::vector<CRoleList> m_roleLists;
+    // The tips of Add buttons while they tell why strings are refused.
+    std::map<UINT, CString> m_usualTips;
     CGUIListCtrl* m_pDragList = nullptr;
     // The target list being double-clicked, while its notice runs.
     const CWnd* m_pDblClkList = nullptr;

@@ -46,9 +46,9 @@ void CGUITabDlg::OnDataSet()
         m_pages[i]->SetData(i < settings.size() ? settings[i] : nullptr);
 }
 
-CString CGUITabDlg::GetUnavailableReason(CGUIBaseDlg&)
+CString CGUITabDlg::GetUnavailableReason(CGUIBaseDlg& page)
 {
-    return {};
+    return page.GetOutOfUseReason();
 }
 
 void CGUITabDlg::OnPageChanged(CGUIBaseDlg* page)

@@ -42,7 +42,8 @@ public:
     virtual void OnPageChanged(CGUIBaseDlg* page);
     // Why the dialog shows `page` as unavailable now, or an empty text while
     // it is available. An unavailable page's tab cannot be chosen, the page
-    // is disabled and at OK its settings are out of use.
+    // is disabled and at OK its settings are out of use. The base asks the
+    // page (GetOutOfUseReason); an override falls back to it.
     virtual CString GetUnavailableReason(CGUIBaseDlg& page);
 
     // Saving: every page's OKLike in page order; the first refusal shows

@@ -44,7 +44,7 @@ const bool g_platformHooksInstalled = [] {
         IBinReader* reader = KalUseRes::GetGlobalResourceHandle();
         return reader ? reader->GetDialogTemplate(id) : nullptr;
     });
-    kal::SetMessageBoxSink([](UINT id) { kal::framework::ReportMessage(id); });
+    kal::SetMessageBoxSink([](UINT id, const CString& detail) { kal::framework::ReportMessage(id, detail); });
     return true;
 }();
 
@@ -126,12 +126,15 @@ CString LoadResourceString(unsigned int id)
     return reader ? reader->GetString(id) : CString();
 }
 
-void ReportMessage(unsigned int id)
+void ReportMessage(unsigned int id, const CString& detail)
 {
-    if (IGlobal* host = Host())
+    IGlobal* host = Host();
+    if (host && detail.IsEmpty())
         host->ReportMessage(id, 0);
+    else if (host)
+        host->ReportFieldMessage(id, detail);
     else
-        std::cerr << "message " << id << std::endl;
+        std::cerr << "message " << id << (detail.IsEmpty() ? "" : ": ") << detail.ToUtf8() << std::endl;
 }
 
 } // namespace kal::framework

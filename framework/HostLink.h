@@ -27,7 +27,8 @@ IBinReader* Resources();     // KalUseRes::GetGlobalResourceHandle()
 // Resource string `id`, or an empty text.
 CString LoadResourceString(unsigned int id);
 
-// Shows message `id` through the host's message service.
-void ReportMessage(unsigned int id);
+// Shows message `id` through the host's message service, with `detail`
+// (the field it is about) when there is one.
+void ReportMessage(unsigned int id, const CString& detail = {});
 
 } // namespace kal::framework

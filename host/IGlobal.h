@@ -41,6 +41,11 @@ public:
 
     // Message service: shows message `messageId` to the user.
     virtual void ReportMessage(UINT messageId, int flags) = 0;
+    // The same for a message about one field of a dialog: `detail` names the
+    // field and what it takes ("Confidence: a number from 0 to 1.") and
+    // follows the message's text. A host that shows messages by id alone
+    // may leave it out.
+    virtual void ReportFieldMessage(UINT messageId, const CString& /*detail*/) { ReportMessage(messageId, 0); }
 
     // Display service: a dialog is about to open.
     virtual void OnDialogOpening(int reason) = 0;

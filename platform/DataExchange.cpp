@@ -37,10 +37,8 @@ void ExchangeNumber(CDataExchange* pDX, UINT id, T& value, UINT parseMessage)
         return;
     }
     T parsed{};
-    if (!ParseWhole(control->GetWindowText(), parsed)) {
-        AfxMessageBox(parseMessage);
-        pDX->Fail();
-    }
+    if (!ParseWhole(control->GetWindowText(), parsed))
+        pDX->FailEntry(id, parseMessage, NumberRule{std::is_integral_v<T>});
     value = parsed;
 }
 
@@ -58,6 +56,49 @@ CWnd* CDataExchange::PrepareCtrl(UINT id)
 void CDataExchange::Fail()
 {
     throw CUserException();
+}
+
+void CDataExchange::FailEntry(UINT id, UINT messageId, const NumberRule& rule)
+{
+    m_idLastControl = id;
+    const CWnd* control = m_pDlgWnd->GetDlgItem(id);
+    AfxMessageBox(messageId, rule.Describe(control ? m_pDlgWnd->GetLabelText(*control) : CString()));
+    Fail();
+}
+
+namespace {
+
+// A bound as the user would type it: whole numbers in full, others in the
+// shortest form.
+std::u16string BoundText(double value, bool whole)
+{
+    if (whole && std::abs(value) < 1e18)
+        return CString::FromUtf8(std::to_string(static_cast<long long>(value))).Str();
+    return CString::FromNumber(value).Str();
+}
+
+} // namespace
+
+CString NumberRule::Describe(const CString& label) const
+{
+    std::u16string text = whole ? u"a whole number" : u"a number";
+    if (bounded) {
+        const std::u16string lo = BoundText(min, whole);
+        const std::u16string hi = BoundText(max, whole);
+        if (std::isinf(max))
+            text += (minOpen ? u" greater than " : u" of at least ") + lo;
+        else if (!minOpen && !maxOpen)
+            text += u" from " + lo + u" to " + hi;
+        else
+            text += (minOpen ? u" greater than " : u" of at least ") + lo +
+                    (maxOpen ? u" and less than " : u" and at most ") + hi;
+    }
+    text += u'.';
+    if (label.IsEmpty()) {
+        text[0] = u'A';
+        return CString(text);
+    }
+    return CString(label.Str() + u": " + text);
 }
 
 void DDX_Control(CDataExchange* pDX, UINT id, CWnd& control)

@@ -5,6 +5,25 @@
 
 #include "platform/Dialog.h"
 
+#include <limits>
+
+// What a number field takes. A message that refuses an entry names the
+// field by its label and says this after it: "Confidence: a number from 0
+// to 1".
+struct NumberRule {
+    bool whole = false;
+    bool bounded = false;
+    double min = 0;
+    double max = 0;
+    bool minOpen = false; // the bound itself is refused
+    bool maxOpen = false;
+
+    static NumberRule Between(double lo, double hi, bool whole = false) { return {whole, true, lo, hi, false, false}; }
+    static NumberRule Positive() { return {false, true, 0, std::numeric_limits<double>::infinity(), true, false}; }
+    // "Label: a whole number from 1 to 99." (no label: "A whole number ...").
+    CString Describe(const CString& label) const;
+};
+
 class CDataExchange {
 public:
     CDataExchange(CDialog* dialog, BOOL bSaveAndValidate) : m_bSaveAndValidate(bSaveAndValidate), m_pDlgWnd(dialog) {}
@@ -13,6 +32,10 @@ public:
     // the template has no such control.
     CWnd* PrepareCtrl(UINT id);
     [[noreturn]] void Fail();
+    // Tells the user that control `id` refuses its entry (message
+    // `messageId`, followed by the control's label and `rule`), leaves the
+    // focus there and abandons the update.
+    [[noreturn]] void FailEntry(UINT id, UINT messageId, const NumberRule& rule);
 
     BOOL m_bSaveAndValidate;
     CDialog* m_pDlgWnd;

@@ -4,6 +4,7 @@
 #include "platform/Diagnostics.h"
 #include "platform/Exceptions.h"
 
+#include <algorithm>
 #include <iostream>
 #include <utility>
 
@@ -84,12 +85,12 @@ HelpSink SetHelpSink(HelpSink sink)
 
 } // namespace kal
 
-void AfxMessageBox(UINT promptId)
+void AfxMessageBox(UINT promptId, const CString& detail)
 {
     if (const auto& sink = MessageSink())
-        sink(promptId);
+        sink(promptId, detail);
     else
-        std::cerr << "message " << promptId << std::endl;
+        std::cerr << "message " << promptId << (detail.IsEmpty() ? "" : ": ") << detail.ToUtf8() << std::endl;
 }
 
 void AfxWinHelp(UINT context)
@@ -277,6 +278,84 @@ std::vector<CButton*> CDialog::GetRadioGroup(const CWnd* radio) const
             found = true;
     }
     return found ? group : std::vector<CButton*>();
+}
+
+namespace {
+
+bool IsCaptionedLabel(const CWnd& wnd)
+{
+    const ControlKind kind = wnd.GetKind();
+    return wnd.GetTemplate() && !wnd.GetTemplate()->caption.IsEmpty() &&
+           (kind == ControlKind::Static || kind == ControlKind::CheckBox || kind == ControlKind::RadioButton);
+}
+
+bool EndsWithColon(const CString& caption)
+{
+    CString trimmed = caption;
+    trimmed.TrimRight();
+    return !trimmed.IsEmpty() && trimmed[trimmed.GetLength() - 1] == u':';
+}
+
+} // namespace
+
+const CWnd* CDialog::GetLabelOf(const CWnd& control) const
+{
+    const ControlTemplate* self = control.GetTemplate();
+    const auto at = std::find(m_children.begin(), m_children.end(), &control);
+    if (!self || at == m_children.end())
+        return nullptr;
+    // A label written just before its field: "Tolerance:" then the edit.
+    for (auto it = std::make_reverse_iterator(at); it != m_children.rend(); ++it) {
+        if ((*it)->GetKind() == ControlKind::GroupBox)
+            continue;
+        if ((*it)->GetKind() == ControlKind::Static && IsCaptionedLabel(**it) && EndsWithColon((*it)->GetWindowText()))
+            return *it;
+        break;
+    }
+    // Else by place: a caption on the same row to the left ("Continuous"
+    // before its measure), else one just above (a check box over its grid).
+    constexpr int kAboveReach = 14; // dialog units between a caption and the field below it
+    const CWnd* best = nullptr;
+    int bestDistance = 0;
+    for (const bool sameRow : {true, false}) {
+        for (const CWnd* child : m_children) {
+            if (child == &control || !IsCaptionedLabel(*child))
+                continue;
+            const ControlTemplate& t = *child->GetTemplate();
+            int distance = -1;
+            if (sameRow && t.y < self->y + self->cy && t.y + t.cy > self->y && t.x + t.cx <= self->x + 2)
+                distance = self->x - (t.x + t.cx);
+            if (!sameRow && t.x < self->x + self->cx && t.x + t.cx > self->x && t.y + t.cy <= self->y + 1 &&
+                self->y - (t.y + t.cy) <= kAboveReach)
+                distance = self->y - (t.y + t.cy);
+            if (distance >= -2 && (!best || distance < bestDistance)) {
+                best = child;
+                bestDistance = distance;
+            }
+        }
+        if (best)
+            return best;
+    }
+    return nullptr;
+}
+
+CString CDialog::GetLabelText(const CWnd& control) const
+{
+    const CWnd* label = GetLabelOf(control);
+    if (!label)
+        return {};
+    const std::u16string& caption = label->GetWindowText().Str();
+    std::u16string plain;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        if (caption[i] == u'&' && i + 1 < caption.size())
+            ++i; // "&&" is an ampersand, "&x" marks x
+        plain += caption[i];
+    }
+    CString text(plain);
+    text.TrimRight();
+    text.TrimRight(u':');
+    text.TrimRight();
+    return text;
 }
 
 UINT CDialog::GetHelpContext()

@@ -57,6 +57,16 @@ public:
     // button or starts a group of its own.
     std::vector<CButton*> GetRadioGroup(const CWnd* radio) const;
 
+    // The static text, check box or radio button whose caption names
+    // `control` (null when none does): a static text ending in ':' just
+    // before it in template order (group boxes aside), else the nearest
+    // captioned control to its left on the same row, else one just above
+    // it. Readers, messages and mnemonics all name a field by it.
+    const CWnd* GetLabelOf(const CWnd& control) const;
+    // That label's caption as a reader says it: no mnemonic marks, no
+    // trailing ':'; empty when the control has no label.
+    CString GetLabelText(const CWnd& control) const;
+
     // The help context the dialog's Help button (IDHELP) and the F1 key
     // show: 0 for none, else an id the help service knows (the analysis's
     // menu command).
@@ -111,7 +121,9 @@ using DialogTemplateSource = std::function<std::shared_ptr<const DialogTemplate>
 // Where dialogs find their templates (installed by the framework).
 void SetDialogTemplateSource(DialogTemplateSource source);
 
-using MessageBoxSink = std::function<void(UINT messageId)>;
+// `detail` says what the message is about (a field and what it takes), or
+// is empty.
+using MessageBoxSink = std::function<void(UINT messageId, const CString& detail)>;
 // Where AfxMessageBox reports go (installed by the framework).
 void SetMessageBoxSink(MessageBoxSink sink);
 
@@ -122,7 +134,7 @@ HelpSink SetHelpSink(HelpSink sink);
 
 } // namespace kal
 
-// Shows message `promptId` to the user.
-void AfxMessageBox(UINT promptId);
+// Shows message `promptId` to the user, followed by `detail` when there is one.
+void AfxMessageBox(UINT promptId, const CString& detail = {});
 // Shows the help of `context`; without a help service it does nothing.
 void AfxWinHelp(UINT context);

@@ -68,10 +68,19 @@ bool CHeadlessSession::Select(UINT list, const std::vector<CString>& names)
 {
     auto& control = As<CListCtrl>(list, "a list");
     const std::vector<int> indexes = control.FindItems(names);
-    for (std::size_t i = 0; i < names.size(); ++i)
+    for (std::size_t i = 0; i < names.size(); ++i) {
         if (indexes[i] < 0)
             throw HeadlessError("list " + IdText(list) + " has no item \"" + names[i].ToUtf8() + "\"");
+        if (!control.IsItemShown(indexes[i]))
+            throw HeadlessError("list " + IdText(list) + " does not show \"" + names[i].ToUtf8() + "\": its filter \"" +
+                                control.GetFilter().ToUtf8() + "\" hides it");
+    }
     return CUserInput::SelectItems(control, indexes);
+}
+
+bool CHeadlessSession::Filter(UINT list, const CString& text)
+{
+    return CUserInput::FilterItems(As<CListCtrl>(list, "a list"), text);
 }
 
 bool CHeadlessSession::Click(UINT id)
@@ -180,7 +189,8 @@ std::vector<CString> CHeadlessSession::Items(UINT list) const
     std::vector<CString> items;
     items.reserve(static_cast<std::size_t>(control.GetItemCount()));
     for (int i = 0; i < control.GetItemCount(); ++i)
-        items.push_back(control.GetItemText(i));
+        if (control.IsItemShown(i))
+            items.push_back(control.GetItemText(i));
     return items;
 }
 

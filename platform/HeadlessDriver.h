@@ -51,7 +51,9 @@ public:
     CWnd& Find(UINT id) const; // throws HeadlessError
 
     bool Page(int index); // 0 is the first page
+    // Names a hidden item (see Filter) cannot be selected: it is not shown.
     bool Select(UINT list, const std::vector<CString>& names);
+    bool Filter(UINT list, const CString& text);
     bool Click(UINT id);
     bool Check(UINT id, int check);
     bool Choose(UINT combo, int index);
@@ -67,6 +69,7 @@ public:
     bool IsEnabled(UINT id) const { return Find(id).IsWindowEnabled(); }
     bool IsVisible(UINT id) const { return Find(id).IsWindowVisible(); }
     int IsChecked(UINT id) const;
+    // The items the list shows, in order.
     std::vector<CString> Items(UINT list) const;
     int ComboSelection(UINT combo) const;
     // The window text; for a combo box the text of its selected entry.

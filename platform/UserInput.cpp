@@ -52,6 +52,15 @@ bool CUserInput::SelectItems(CListCtrl& list, const std::vector<int>& indexes)
     return true;
 }
 
+bool CUserInput::FilterItems(CListCtrl& list, const CString& text)
+{
+    if (!IsReachable(list))
+        return false;
+    list.SetFilter(text);
+    list.NotifyParentEx(LVN_ITEMCHANGED);
+    return true;
+}
+
 bool CUserInput::DoubleClick(CListCtrl& list)
 {
     if (!IsReachable(list))

@@ -20,6 +20,10 @@ public:
     static bool SetCheck(CButton& box, int check);
     // Exactly these items selected, then one LVN_ITEMCHANGED.
     static bool SelectItems(CListCtrl& list, const std::vector<int>& indexes);
+    // Types into the filter field of a list: only the items holding `text`
+    // stay shown, then one LVN_ITEMCHANGED, as the shown selection may have
+    // changed.
+    static bool FilterItems(CListCtrl& list, const CString& text);
     static bool DoubleClick(CListCtrl& list);
     static bool ChooseItem(CComboBox& combo, int index);
     static bool TypeText(CWnd& edit, const CString& text);

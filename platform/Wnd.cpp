@@ -4,6 +4,7 @@
 #include "platform/Dialog.h"
 
 #include <algorithm>
+#include <cwctype>
 
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
@@ -199,6 +200,7 @@ int CListCtrl::InsertItem(int index, const CString& text)
     index = std::clamp(index, 0, GetItemCount());
     const bool appended = index == GetItemCount();
     m_items.insert(m_items.begin() + index, Item(text));
+    m_items[static_cast<std::size_t>(index)].hidden = FilterHides(text.Str());
     // An item appended extends the index; one inserted renumbers the rest.
     const auto textOf = [this](int i) { return TextOf(i); };
     if (!appended || !m_index.Add(index, HashOf(index), textOf))
@@ -301,8 +303,10 @@ void CListCtrl::SetSelection(const std::vector<int>& indexes)
     for (const int i : Selection())
         m_items[static_cast<std::size_t>(i)].selected = false;
     m_selection.clear();
+    // Hidden items keep their flags; only shown ones are chosen.
     for (const int i : indexes)
-        if (i >= 0 && i < GetItemCount() && !m_items[static_cast<std::size_t>(i)].selected) {
+        if (i >= 0 && i < GetItemCount() && !m_items[static_cast<std::size_t>(i)].selected &&
+            !m_items[static_cast<std::size_t>(i)].hidden) {
             m_items[static_cast<std::size_t>(i)].selected = true;
             m_selection.push_back(i);
         }
@@ -316,7 +320,7 @@ const std::vector<int>& CListCtrl::Selection() const
     if (!m_selectionKnown) {
         m_selection.clear();
         for (std::size_t i = 0; i < m_items.size(); ++i)
-            if (m_items[i].selected)
+            if (m_items[i].selected && !m_items[i].hidden)
                 m_selection.push_back(static_cast<int>(i));
         m_selectionKnown = true;
     }
@@ -338,8 +342,64 @@ void CListCtrl::SetItems(std::vector<CString> texts)
     SetItems(texts.size(), [&texts](std::size_t i) { return std::move(texts[i]); });
 }
 
+namespace {
+
+char16_t Fold(char16_t c)
+{
+    if (c < 0x80)
+        return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
+    return static_cast<char16_t>(std::towlower(static_cast<wint_t>(c)));
+}
+
+} // namespace
+
+bool CListCtrl::FilterHides(std::u16string_view text) const
+{
+    const std::u16string_view wanted = m_filterFold;
+    if (wanted.empty())
+        return false;
+    const auto same = [](char16_t a, char16_t b) { return Fold(a) == b; };
+    return std::search(text.begin(), text.end(), wanted.begin(), wanted.end(), same) == text.end();
+}
+
+void CListCtrl::ApplyFilter()
+{
+    for (Item& item : m_items)
+        item.hidden = FilterHides(item.text.Str());
+}
+
+void CListCtrl::SetFilter(const CString& text)
+{
+    if (text == m_filter)
+        return;
+    m_filter = text;
+    m_filterFold.clear();
+    for (const char16_t c : text.Str())
+        m_filterFold += Fold(c);
+    ApplyFilter();
+    ForgetSelection();
+    Changed(WndAspect::Items);
+}
+
+bool CListCtrl::IsItemShown(int index) const
+{
+    return index >= 0 && index < GetItemCount() && !m_items[static_cast<std::size_t>(index)].hidden;
+}
+
+std::vector<int> CListCtrl::GetShownItems() const
+{
+    std::vector<int> shown;
+    shown.reserve(m_items.size());
+    for (std::size_t i = 0; i < m_items.size(); ++i)
+        if (!m_items[i].hidden)
+            shown.push_back(static_cast<int>(i));
+    return shown;
+}
+
 void CListCtrl::ItemsReplaced()
 {
+    if (!m_filterFold.empty())
+        ApplyFilter();
     m_index.Clear();
     m_selection.clear();
     m_selectionKnown = true;

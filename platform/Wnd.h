@@ -181,8 +181,19 @@ public:
     bool IsItemSelected(int index) const;
     void SetItemSelected(int index, bool selected);
     void SetSelection(const std::vector<int>& indexes);
+    // The selected items that are shown (see SetFilter), in order.
     std::vector<int> GetSelectedItems() const;
     int GetSelectedCount() const;
+
+    // Shows only the items whose text holds `text`, in any case (empty: all
+    // of them). A hidden item keeps its place and its selection flag but
+    // takes no part in what the user does: the selection reported, set or
+    // moved is that of the shown items. Items added later follow it.
+    void SetFilter(const CString& text);
+    const CString& GetFilter() const { return m_filter; }
+    bool IsItemShown(int index) const;
+    // The indexes of the shown items, in order.
+    std::vector<int> GetShownItems() const;
     // Replaces every item at once, selection cleared; one change for views.
     void SetItems(std::vector<CString> texts);
     // The same with the items' texts handed over one by one: text(i) for i
@@ -211,6 +222,7 @@ private:
         CString text;
         std::uint32_t hash = 0;
         bool selected = false;
+        bool hidden = false;
 
         explicit Item(CString t) : text(std::move(t)), hash(CTextIndex::Hash(text.Str())) {}
     };
@@ -221,10 +233,14 @@ private:
     // The selected items in order, kept beside the items' flags so that a
     // list of 100,000 entries answers "what is selected" by its selection.
     void ForgetSelection() { m_selectionKnown = false; }
+    bool FilterHides(std::u16string_view text) const;
+    void ApplyFilter();
     void ItemsReplaced();
     const std::vector<int>& Selection() const;
 
     mutable CTextIndex m_index;
+    CString m_filter;            // as the user typed it
+    std::u16string m_filterFold; // the same in lower case
     mutable std::vector<int> m_selection;
     mutable bool m_selectionKnown = true;
 };

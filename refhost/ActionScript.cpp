@@ -1,5 +1,6 @@
 #include "refhost/ActionScript.h"
 
+#include "framework/GUIListCtrl.h"
 #include "platform/UserInput.h"
 
 #include <charconv>
@@ -83,6 +84,7 @@ const std::map<std::string, Shape, std::less<>> kActions = {
     {"check", {2, 2, false, "check ID 0|1"}},
     {"choose", {2, 2, false, "choose COMBO INDEX"}},
     {"type", {1, 1, true, "type EDIT TEXT..."}},
+    {"filter", {1, 1, true, "filter LIST TEXT..."}},
     {"cell", {4, SIZE_MAX, false, "cell GRID ROW COL TEXT..."}},
     {"dblclick", {1, 1, false, "dblclick LIST"}},
     {"drag", {2, 2, false, "drag LIST TARGET"}},
@@ -228,7 +230,7 @@ std::vector<ScriptLine> ParseScript(std::string_view text)
         // Numbers are checked now, so that no bad line waits to be reached.
         const auto& a = parsed.args;
         const std::string& v = parsed.verb;
-        if (v == "open" || v == "click" || v == "dblclick" || v == "type" || v == "select")
+        if (v == "open" || v == "click" || v == "dblclick" || v == "type" || v == "select" || v == "filter")
             Id(a[0], number);
         else if (v == "page")
             Number(a[0], number, "the page", 0, 1000);
@@ -330,6 +332,8 @@ void ScriptRunner::Act(CHeadlessSession& s, const ScriptLine& line)
         s.Choose(Id(a[0], n), static_cast<int>(Number(a[1], n, "the index", 0, 0x7FFFFFFF)));
     else if (v == "type")
         s.Type(Id(a[0], n), CString::FromUtf8(line.text));
+    else if (v == "filter")
+        Filter(s, Id(a[0], n), CString::FromUtf8(line.text));
     else if (v == "cell") {
         std::string text;
         for (std::size_t i = 3; i < a.size(); ++i)
@@ -348,6 +352,15 @@ void ScriptRunner::Act(CHeadlessSession& s, const ScriptLine& line)
         s.Ok();
     else if (v == "cancel")
         s.Cancel();
+}
+
+void ScriptRunner::Filter(CHeadlessSession& s, UINT list, const CString& text)
+{
+    // Source lists alone have a filter field: target lists are short.
+    const auto* variables = dynamic_cast<const CGUIListCtrl*>(&s.Find(list));
+    if (!variables || !variables->IsSourceList())
+        throw HeadlessError("control " + std::to_string(list) + " is not a source list: only they have a filter");
+    s.Filter(list, text);
 }
 
 void ScriptRunner::Check(CHeadlessSession& s, const ScriptLine& line)

@@ -66,6 +66,7 @@ public:
 private:
     void Act(CHeadlessSession& session, const ScriptLine& line);
     void Check(CHeadlessSession& session, const ScriptLine& line);
+    static void Filter(CHeadlessSession& session, UINT list, const CString& text);
     void Fail(Outcome outcome, const std::string& message);
 
     std::vector<ScriptLine> m_lines;

@@ -59,6 +59,36 @@ std::string HelpDocument::Describe() const
            (places.empty() ? std::string("it nowhere") : places) + ")";
 }
 
+namespace {
+
+// Where a file of the package's docs may be: the installed docs, then the
+// source tree a build tree was configured from (`sourceFolder` there).
+std::vector<std::filesystem::path> DocCandidates(const std::string& name, const std::filesystem::path& programDirectory,
+                                                 const std::string& sourceFolder)
+{
+    std::vector<std::filesystem::path> candidates{
+        (programDirectory / KAL_DOCDIR_FROM_BINDIR / name).lexically_normal()};
+    if (const auto source = ConfiguredSourceDirectory(programDirectory.parent_path()); !source.empty())
+        candidates.push_back((source / sourceFolder / name).lexically_normal());
+    return candidates;
+}
+
+bool IsFile(const std::filesystem::path& path)
+{
+    std::error_code error;
+    return std::filesystem::is_regular_file(path, error);
+}
+
+} // namespace
+
+std::filesystem::path FindPackageFile(const std::string& name, const std::filesystem::path& programDirectory)
+{
+    for (const auto& candidate : DocCandidates(name, programDirectory, ""))
+        if (IsFile(candidate))
+            return candidate;
+    return name;
+}
+
 HelpDocument FindHelpDocument(const std::string& topic, const std::filesystem::path& programDirectory)
 {
     HelpDocument help;
@@ -69,14 +99,9 @@ HelpDocument FindHelpDocument(const std::string& topic, const std::filesystem::p
     const std::string document = topic.substr(0, hash);
     help.anchor = hash == std::string::npos ? std::string() : topic.substr(hash + 1);
 
-    std::vector<std::filesystem::path> candidates{
-        (programDirectory / KAL_DOCDIR_FROM_BINDIR / document).lexically_normal()};
-    if (const auto source = ConfiguredSourceDirectory(programDirectory.parent_path()); !source.empty())
-        candidates.push_back((source / "docs" / document).lexically_normal());
-    for (const auto& candidate : candidates) {
+    for (const auto& candidate : DocCandidates(document, programDirectory, "docs")) {
         help.searched.push_back(candidate);
-        std::error_code error;
-        if (std::filesystem::is_regular_file(candidate, error)) {
+        if (IsFile(candidate)) {
             help.file = candidate;
             break;
         }

@@ -29,6 +29,11 @@ struct HelpDocument {
 // the source tree a build tree was configured from (its CMakeCache.txt).
 HelpDocument FindHelpDocument(const std::string& topic, const std::filesystem::path& programDirectory);
 
+// A file the package installs beside its docs ("samples/anova.kal"): in the
+// installed tree, else in the source tree of a build tree; the name as
+// given when neither holds it.
+std::filesystem::path FindPackageFile(const std::string& name, const std::filesystem::path& programDirectory);
+
 // The directory of the running program.
 std::filesystem::path ProgramDirectory();
 

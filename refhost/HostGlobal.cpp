@@ -105,7 +105,14 @@ bool HostGlobal::IsCommandAllowed(UINT)
 
 void HostGlobal::ReportMessage(UINT messageId, int)
 {
-    const CString text = m_resources.GetMessageText(messageId);
+    ReportFieldMessage(messageId, {});
+}
+
+void HostGlobal::ReportFieldMessage(UINT messageId, const CString& detail)
+{
+    CString text = m_resources.GetMessageText(messageId);
+    if (!detail.IsEmpty())
+        text += (text.IsEmpty() ? CString() : CString(u" ")) + detail;
     m_err << "message " << messageId << ": " << text.ToUtf8() << std::endl;
     if (m_presenter)
         m_presenter(text);

@@ -62,6 +62,7 @@ public:
     void RunCommand(UINT commandId, const CString& caption) override;
     bool IsCommandAllowed(UINT commandId) override;
     void ReportMessage(UINT messageId, int flags) override;
+    void ReportFieldMessage(UINT messageId, const CString& detail) override;
     void OnDialogOpening(int) override {}
     bool IsReplayMode() override { return false; }
     IMainFrame* GetMainFrame() override { return this; }

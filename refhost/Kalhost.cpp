@@ -15,6 +15,7 @@
 #include <dlfcn.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -41,6 +42,7 @@ struct Options {
     std::string decimal;
     std::string modulePath;
 
+    bool availableOnly = false;
     unsigned int commandId = 0;
     std::string actionsFile;
     bool gui = false;
@@ -244,17 +246,45 @@ private:
     std::optional<LoadedModule> m_module;
 };
 
-int ListCommands(Session& session)
+// Where command `id` sits in the menus, as a user reads it: "Analysis of
+// Variance > Estimate Model..." (the menu bar's own entry and the mnemonic
+// marks left out).
+std::string MenuPath(const std::vector<MenuNode>& nodes, UINT id, const std::string& above = {}, bool top = true)
+{
+    for (const auto& node : nodes) {
+        CString text = node.text;
+        text.Remove(u'&');
+        const std::string path = top ? std::string() : above + (above.empty() ? "" : " > ") + text.ToUtf8();
+        if (node.id == id && id != 0)
+            return path;
+        if (auto found = MenuPath(node.items, id, path, false); !found.empty())
+            return found;
+    }
+    return {};
+}
+
+// One row per menu command: id first and status last, so that scripts read
+// both by position; the menu path has blanks, the class names have none.
+int ListCommands(Session& session, bool availableOnly)
 {
     // The trace line goes through the module's own wide stream.
     std::cout.flush();
     session.Module().Module().PrintModuleInfo();
-    std::cout << std::left << std::setw(6) << "id" << std::setw(28) << "handler" << std::setw(48) << "dialog"
-              << std::setw(48) << "settings"
-              << "status\n";
+    using Row = std::array<std::string, 6>; // id, menu, handler, dialog, settings, status
+    std::vector<Row> rows{{"id", "menu", "handler", "dialog", "settings", "status"}};
     for (const auto& c : session.Module().Commands())
-        std::cout << std::left << std::setw(6) << c.id << std::setw(28) << c.handler << std::setw(48) << c.dialogClass
-                  << std::setw(48) << c.settingsClass << (c.available ? "available" : "not available") << '\n';
+        if (c.available || !availableOnly)
+            rows.push_back({std::to_string(c.id), MenuPath(session.Resources().GetMenuBar(), c.id), c.handler,
+                            c.dialogClass, c.settingsClass, c.available ? "available" : "not available"});
+    std::array<std::size_t, 6> widths{};
+    for (const Row& row : rows)
+        for (std::size_t i = 0; i + 1 < row.size(); ++i)
+            widths[i] = std::max(widths[i], row[i].size() + 2);
+    for (const Row& row : rows) {
+        for (std::size_t i = 0; i + 1 < row.size(); ++i)
+            std::cout << std::left << std::setw(static_cast<int>(widths[i])) << row[i];
+        std::cout << row.back() << '\n';
+    }
     return kExitDone;
 }
 
@@ -489,6 +519,30 @@ std::string SubcommandWord(int argc, char** argv)
     return {};
 }
 
+bool AsksForHelpOrVersion(int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i)
+        if (const std::string arg = argv[i]; arg == "-h" || arg == "--help" || arg == "--version")
+            return true;
+    return false;
+}
+
+// What `kalhost` alone prints: the shape of a call and three first steps,
+// the sample named where this kalhost finds it.
+std::string FirstContactUsage()
+{
+    const std::string sample = FindPackageFile("samples/anova.kal", ProgramDirectory()).string();
+    return "Usage: kalhost [options] list|open|play|commands|store-dump ...   (kalhost --help tells more)\n"
+           "\n"
+           "  kalhost list --available                    the analyses you can open, with their ids\n"
+           "  kalhost --data my.csv open 2008 --gui       an analysis of variance on your CSV, in a window\n"
+           "  kalhost play " +
+           sample +
+           "   a sample session: its command lines are printed\n"
+           "\n"
+           "Without --data the built-in sample data sheet is open.\n";
+}
+
 // Output that did not reach its file (a full disk, a closed pipe) is a
 // failure of the run, not a silent loss.
 int CheckOutput(int status)
@@ -527,7 +581,9 @@ int Run(int argc, char** argv)
     app.add_option("--decimal", options.decimal, "decimal separator of numbers in commands (one character)");
     app.add_option("--module", options.modulePath, "the module library to load (default: the one beside kalhost)");
 
-    auto* list = app.add_subcommand("list", "the menu commands: id, handler, dialog, settings, status");
+    auto* list =
+        app.add_subcommand("list", "the menu commands: id, menu path and title, handler, dialog, settings, status");
+    list->add_flag("--available", options.availableOnly, "only the commands whose analysis this module holds");
     auto* open = app.add_subcommand("open", "send menu command ID and run the dialog it opens");
     open->add_option("ID", options.commandId, "menu command id")->required();
     open->add_option("--actions", options.actionsFile, "action script for the dialog (FILE, or - for standard input)");
@@ -547,6 +603,10 @@ int Run(int argc, char** argv)
         sub->footer(kFooter);
 
     const std::string word = SubcommandWord(argc, argv);
+    if (word.empty() && !AsksForHelpOrVersion(argc, argv)) {
+        std::cout << FirstContactUsage();
+        return CheckOutput(kExitUsage);
+    }
     if (!word.empty() && std::find(std::begin(kSubcommands), std::end(kSubcommands), word) == std::end(kSubcommands)) {
         std::cerr << "kalhost: unknown subcommand \"" << word
                   << "\"; the subcommands are list, open, play, commands and store-dump (kalhost --help)" << std::endl;
@@ -575,7 +635,7 @@ int Run(int argc, char** argv)
         int status = kExitUsage;
         try {
             if (*list)
-                status = ListCommands(session);
+                status = ListCommands(session, options.availableOnly);
             else if (*open)
                 status = options.gui ? OpenInWindow(session, options, argc, argv) : OpenHeadless(session, options);
             else if (*play)

@@ -1,6 +1,7 @@
 #include "private/Anova/KDGRepeatMeasuresDlg.h"
 
 #include "framework/GUITabDlg.h"
+#include "framework/HostLink.h"
 
 #include <charconv>
 #include <unordered_set>
@@ -53,6 +54,11 @@ void CRepeatMeasuresDlg::OnOnOffCheck()
 BOOL CRepeatMeasuresDlg::IsWindowEnabled()
 {
     return GetDependentVariableCount() >= 2;
+}
+
+CString CRepeatMeasuresDlg::GetOutOfUseReason()
+{
+    return IsWindowEnabled() ? CString() : kal::framework::LoadResourceString(kNeedsTwoDependents);
 }
 
 int CRepeatMeasuresDlg::GetDependentVariableCount() const

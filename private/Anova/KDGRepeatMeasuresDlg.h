@@ -17,6 +17,7 @@ public:
     static constexpr UINT kMsgSingleLevel = 2007;
     static constexpr UINT kMsgMetric = 2013;
     static constexpr UINT kMsgDuplicateName = 2014;
+    static constexpr UINT kNeedsTwoDependents = 2266;
 
     explicit CRepeatMeasuresDlg(CWnd* parent = nullptr) : CGUIPageDlg(IDD, parent, IDC_GRID) {}
 
@@ -25,6 +26,7 @@ public:
     int OKLike() override;
     void UpdateDependentWindows() override;
     BOOL IsWindowEnabled() override;
+    CString GetOutOfUseReason() override;
     const char* GetSourceFile() const override { return "Source/KDGRepeatMeasuresDlg"; }
 
     // The dependent variables of the tab dialog's model page (owners 2263,

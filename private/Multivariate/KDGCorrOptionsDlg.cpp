@@ -27,7 +27,7 @@ void CCorrOptionsDlg::DoDataExchange(CDataExchange* pDX)
     CGUIPageDlg::DoDataExchange(pDX);
     // The ranges include 0; a convergence or tolerance of 0 is never met.
     const auto aboveZero = [&](UINT id, const CGUIData<double>& value) {
-        DDX_ControlWarn(pDX, id, IsCtrlEnabled(id) && value.m_Value <= 0 ? kMsgOutOfRange : 0);
+        DDX_ControlWarn(pDX, id, IsCtrlEnabled(id) && value.m_Value <= 0 ? kMsgOutOfRange : 0, NumberRule::Positive());
     };
     aboveZero(IDC_CONVERGENCE, m_Work.GetConvergenceEdit());
     aboveZero(IDC_TOLERANCE, m_Work.GetToleranceEdit());

@@ -22,7 +22,7 @@ CString CCorrelationsTabDlg::GetUnavailableReason(CGUIBaseDlg& page)
 {
     if (&page == &m_CorrOptionsDlg && !m_CorrelationsDlg.IsOptionsPageAvailable())
         return kal::framework::LoadResourceString(kOptionsUnavailableText);
-    return {};
+    return CGUITabDlg::GetUnavailableReason(page);
 }
 
 void CCorrelationsTabDlg::SetDlgCaptionID(UINT captionId)

@@ -35,7 +35,8 @@ void CLogitOptsDlg::DoDataExchange(CDataExchange* pDX)
     CGUIPageDlg::DoDataExchange(pDX);
     // The range includes 0, but a convergence of 0 is never reached.
     DDX_ControlWarn(pDX, IDC_CONVERGENCE,
-                    IsCtrlInUse(IDC_CONVERGENCE) && m_Work.GetConvergence().m_Value <= 0 ? kMsgOutOfRange : 0);
+                    IsCtrlInUse(IDC_CONVERGENCE) && m_Work.GetConvergence().m_Value <= 0 ? kMsgOutOfRange : 0,
+                    NumberRule::Positive());
     // A term that may leave as soon as it entered would step forever.
     DDX_ControlWarn(
         pDX, IDC_REMOVE,
@@ -48,6 +49,7 @@ void CLogitOptsDlg::UpdateDependentWindows()
     const bool sets = IsChoiceSetsInUse();
     EnableCtrl(IDC_COMPLETE, !sets);
     EnableCtrl(IDC_STEPWISE, !sets);
+    ShowCtrl(IDC_CHOICE_SETS_HINT, sets);
     const bool stepwise = IsStepwise();
     for (const UINT id : {IDC_DIRECTION_LABEL, IDC_BACKWARD, IDC_FORWARD, IDC_ENTER_LABEL, IDC_ENTER, IDC_REMOVE_LABEL,
                           IDC_REMOVE, IDC_FORCE_LABEL, IDC_FORCE, IDC_MAXSTEP_LABEL, IDC_MAXSTEP})

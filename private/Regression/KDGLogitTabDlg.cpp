@@ -26,7 +26,7 @@ CString CLogitTabDlg::GetUnavailableReason(CGUIBaseDlg& page)
 {
     if (&page == &m_DecilesDlg && m_SetsDlg.IsChoiceSetsChecked())
         return kal::framework::LoadResourceString(kDecilesNeedBinaryResponse);
-    return {};
+    return CGUITabDlg::GetUnavailableReason(page);
 }
 
 int CLogitTabDlg::SetAllDefault()

@@ -47,6 +47,8 @@ BOOL CRegressionPredictDlg::IsWindowEnabled()
 void CRegressionPredictDlg::UpdateDependentWindows()
 {
     CGUIBaseDlg::UpdateDependentWindows();
+    // The hint says why the page is grey, so it shows only while it is.
+    ShowCtrl(IDC_COMPLETE_HINT, !IsWindowEnabled());
     OnPredictCheck();
 }
 

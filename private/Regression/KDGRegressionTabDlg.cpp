@@ -34,7 +34,7 @@ CString CRegressionTabDlg::GetUnavailableReason(CGUIBaseDlg& page)
 {
     if ((&page == &m_AnovaOptionsDlg || &page == &m_BootStrapDlg) && !IsBootStrapWindowEnabled())
         return kal::framework::LoadResourceString(kCompleteEstimationOnly);
-    return {};
+    return CGUITabDlg::GetUnavailableReason(page);
 }
 
 int CRegressionTabDlg::GetAllDefault()

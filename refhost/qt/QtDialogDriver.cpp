@@ -39,6 +39,9 @@ QtApplication::QtApplication(int& argc, char** argv, bool offscreen) : m_impl(st
         }
     }
     m_impl->app = std::make_unique<QApplication>(argc, argv);
+    // Where the user's window sizes are kept between runs.
+    QCoreApplication::setOrganizationName(QStringLiteral("KalDlgStat2"));
+    QCoreApplication::setApplicationName(QStringLiteral("kalhost"));
 }
 
 QtApplication::~QtApplication() = default;

@@ -1,16 +1,23 @@
 #include "refhost/qt/QtDialogRun.h"
 
 #include "platform/UserInput.h"
+#include "refhost/qt/QtTemplateLayout.h"
 #include "refhost/qt/QtWidgets.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QCursor>
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QMetaObject>
 #include <QPixmap>
+#include <QSettings>
 #include <QShortcut>
 
 #include <cmath>
+#include <map>
 
 namespace kalhost::qt::detail {
 
@@ -18,10 +25,14 @@ DialogRun::DialogRun(CDialog& dialog, QWidget* parent)
     : m_dialog(dialog), m_window(std::make_unique<ModelDialog>(parent))
 {
     m_window->onReject = [this] { OnReject(); };
-    m_window->setSizeGripEnabled(false);
+    m_window->setSizeGripEnabled(true);
     auto* help = new QShortcut(QKeySequence::HelpContents, m_window.get());
     help->setContext(Qt::WindowShortcut);
     QObject::connect(help, &QShortcut::activated, m_window.get(), [this] { OnHelpKey(); });
+    // Shift+F10 is the context-menu key of keyboards without a Menu key.
+    auto* menuKey = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F10), m_window.get());
+    menuKey->setContext(Qt::WindowShortcut);
+    QObject::connect(menuKey, &QShortcut::activated, m_window.get(), [this] { OnContextMenuKey(); });
 
     // Dialog units: a quarter of the font's average character width and an
     // eighth of its height.
@@ -32,10 +43,9 @@ DialogRun::DialogRun(CDialog& dialog, QWidget* parent)
     m_baseY = std::max(1, metrics.height());
 
     SyncScope sync(*this);
-    if (const DialogTemplate* t = dialog.GetDialogTemplate())
-        m_window->setFixedSize(Scale(0, 0, t->cx, t->cy).size());
     Register(MakeDialogView(*this, dialog, m_window.get(), true));
     BuildControls(dialog, m_window.get());
+    RestoreSize();
 }
 
 DialogRun::~DialogRun()
@@ -43,6 +53,7 @@ DialogRun::~DialogRun()
     // Whatever the widgets do while they go is not user input, and the
     // model stops telling views that are about to go.
     ++m_syncDepth;
+    RememberSize();
     for (const auto& view : m_views)
         view->Detach();
     m_window.reset();
@@ -68,10 +79,79 @@ void DialogRun::Rebind(WindowView& view, CWnd* from, CWnd* to)
 
 void DialogRun::BuildControls(CDialog& dialog, QWidget* container)
 {
-    for (CWnd* child : dialog.GetChildren())
-        if (child->GetTemplate())
-            Register(MakeControlView(*this, *child, container));
+    const DialogTemplate* t = dialog.GetDialogTemplate();
+    // A dialog grows from its template's size, never below it.
+    auto* layout = t ? new TemplateLayout(container, Scale(0, 0, t->cx, t->cy).size(), ScaleX(12)) : nullptr;
+    for (CWnd* child : dialog.GetChildren()) {
+        const ControlTemplate* control = child->GetTemplate();
+        if (!control)
+            continue;
+        Register(MakeControlView(*this, *child, container));
+        WindowView* view = m_views.back().get();
+        if (layout)
+            layout->AddControl(control->kind, Scale(control->x, control->y, control->cx, control->cy),
+                               [view](const QRect& rect) { view->Place(rect); });
+    }
     ConnectSiblings(*this, dialog);
+}
+
+namespace {
+
+// Sizes the user gave dialogs, by template, for the rest of the run; on a
+// desktop they are kept in the user's settings for the next run too.
+std::map<UINT, QSize>& RememberedSizes()
+{
+    static std::map<UINT, QSize> sizes;
+    return sizes;
+}
+
+bool KeepsSizesBetweenRuns()
+{
+    return QGuiApplication::platformName() != QStringLiteral("offscreen");
+}
+
+QString SizeKey(UINT templateId)
+{
+    return QStringLiteral("dialogs/%1/size").arg(templateId);
+}
+
+} // namespace
+
+void DialogRun::RestoreSize()
+{
+    const UINT id = m_dialog.GetTemplateID();
+    QSize size;
+    if (const auto it = RememberedSizes().find(id); it != RememberedSizes().end())
+        size = it->second;
+    else if (KeepsSizesBetweenRuns())
+        size = QSettings().value(SizeKey(id)).toSize();
+    m_window->adjustSize();
+    if (size.isValid())
+        m_window->resize(size.expandedTo(m_window->minimumSizeHint()));
+}
+
+void DialogRun::RememberSize() const
+{
+    const QSize size = m_window->size();
+    if (!m_window->testAttribute(Qt::WA_WState_Created) || !size.isValid())
+        return;
+    RememberedSizes()[m_dialog.GetTemplateID()] = size;
+    if (KeepsSizesBetweenRuns())
+        QSettings().setValue(SizeKey(m_dialog.GetTemplateID()), size);
+}
+
+void DialogRun::OnContextMenuKey()
+{
+    QWidget* focus = QApplication::focusWidget();
+    if (Syncing() || !focus || focus->window() != m_window.get())
+        return;
+    // As the Menu key does: a context menu of the focused control, opened
+    // at its current item or its middle.
+    QPoint local = focus->rect().center();
+    if (const auto* view = qobject_cast<const QAbstractItemView*>(focus); view && view->currentIndex().isValid())
+        local = view->viewport()->mapTo(focus, view->visualRect(view->currentIndex()).center());
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, local, focus->mapToGlobal(local));
+    QApplication::sendEvent(focus, &event);
 }
 
 QWidget* DialogRun::BuildPage(CDialog& page)

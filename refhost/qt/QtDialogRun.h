@@ -41,6 +41,12 @@ public:
     virtual void Flush() {}
     // The widget that takes the keyboard focus for this window.
     virtual QWidget* FocusWidget() const { return m_widget; }
+    // Puts the widget (and what the view adds beside it) into `rect`, the
+    // control's rectangle in the laid-out dialog.
+    virtual void Place(const QRect& rect);
+    // Gives the widgets the view adds beside its own (a browse button, a
+    // filter field) names that readers say, after the control's `name`.
+    virtual void NameAttachments(const QString& /*name*/) {}
 
     CWnd& Wnd() const { return *m_wnd; }
     QWidget* Widget() const { return m_widget; }
@@ -125,6 +131,10 @@ public:
 private:
     void Register(std::unique_ptr<WindowView> view);
     void BuildControls(CDialog& dialog, QWidget* container);
+    // The size the user last gave dialogs of this template, if any.
+    void RestoreSize();
+    void RememberSize() const;
+    void OnContextMenuKey();
     void CloseIfEnded();
     void OnReject();
     void OnHelpKey();
@@ -151,7 +161,8 @@ std::unique_ptr<WindowView> MakeControlView(DialogRun& run, CWnd& control, QWidg
 // The view of a dialog: the top window (`top`) or a tab page's container.
 std::unique_ptr<WindowView> MakeDialogView(DialogRun& run, CDialog& dialog, QWidget* widget, bool top);
 // Once the controls of `dialog` have their views: labels lend their
-// mnemonic to the control after them, radio buttons form the model's groups.
+// mnemonic and their text (a reader's name for it) to the control they name,
+// radio buttons form the model's groups.
 void ConnectSiblings(DialogRun& run, CDialog& dialog);
 
 } // namespace kalhost::qt::detail

@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QStringList>
 #include <QTabBar>
 #include <QTabWidget>
@@ -25,6 +26,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace kalhost::qt::detail {
@@ -228,6 +230,10 @@ public:
     }
 
     QWidget* FocusWidget() const override { return static_cast<FileEditWidget*>(m_widget)->Edit(); }
+    void NameAttachments(const QString& name) override
+    {
+        static_cast<FileEditWidget*>(m_widget)->Browse()->setAccessibleName(QStringLiteral("Choose a file: ") + name);
+    }
     void Resync() override { ShowText(*m_wnd, static_cast<FileEditWidget*>(m_widget)->Edit()); }
 
 protected:
@@ -313,6 +319,8 @@ protected:
 
 // --- List -------------------------------------------------------------------------
 
+// The widget's rows are the model's shown items (see CListCtrl::SetFilter);
+// a source list has a filter field above it.
 class ListView final : public WindowView {
 public:
     ListView(DialogRun& run, CWnd& wnd, QWidget* container) : WindowView(run, wnd, new VariableListWidget(container))
@@ -322,6 +330,8 @@ public:
                                                               : QAbstractItemView::ExtendedSelection);
         list->setUniformItemSizes(true);
         list->setContextMenuPolicy(Qt::CustomContextMenu);
+        if (const auto* variables = dynamic_cast<const CGUIListCtrl*>(&wnd); variables && variables->IsSourceList())
+            AddFilterField(container);
 
         QObject::connect(list, &QListWidget::itemSelectionChanged, list, [this] {
             if (m_run.Syncing() || m_itemsDirty)
@@ -342,13 +352,11 @@ public:
             return m_run.Input(this, [this] { return Model() && CUserInput::BeginDrag(*Model()); });
         };
         list->itemIcon = [this](int row) {
-            return row >= 0 && static_cast<std::size_t>(row) < m_kinds.size() ? VariableKindIcon(m_kinds[row])
-                                                                              : QIcon();
+            const int item = ItemOfRow(row);
+            return item >= 0 ? VariableKindIcon(m_kinds[static_cast<std::size_t>(item)]) : QIcon();
         };
         list->itemTip = [this, list](int row) {
-            if (row < 0 || static_cast<std::size_t>(row) >= m_kinds.size())
-                return QString();
-            const QString kind = ToQt(kal::framework::VariableKindText(m_kinds[row]));
+            const QString kind = KindText(row);
             const QString name = list->item(row)->text();
             return kind.isEmpty() ? name : name + QStringLiteral(" \u2014 ") + kind;
         };
@@ -376,19 +384,43 @@ public:
         if (!m_itemsDirty || !Model())
             return;
         auto* list = static_cast<QListWidget*>(m_widget);
+        m_rows = Model()->GetShownItems();
         QStringList texts;
-        texts.reserve(Model()->GetItemCount());
-        for (int i = 0; i < Model()->GetItemCount(); ++i)
-            texts << ToQt(Model()->GetItemText(i));
+        texts.reserve(static_cast<qsizetype>(m_rows.size()));
+        for (const int item : m_rows)
+            texts << ToQt(Model()->GetItemText(item));
         list->clear();
         list->addItems(texts);
-        // Variable lists mark each variable's kind.
+        // Variable lists mark each variable's kind, for the eye by an icon
+        // and for readers by the item's description.
         if (const auto* variables = dynamic_cast<const CGUIListCtrl*>(Model()))
             m_kinds = kal::framework::VariableKindsOf(*variables);
         else
             m_kinds.clear();
+        if (!m_kinds.empty())
+            for (int row = 0; row < list->count(); ++row)
+                list->item(row)->setData(Qt::AccessibleDescriptionRole, KindText(row));
+        if (m_filter && m_filter->text() != ToQt(Model()->GetFilter()))
+            m_filter->setText(ToQt(Model()->GetFilter()));
         m_itemsDirty = false;
         ApplySelection();
+    }
+
+    void Place(const QRect& rect) override
+    {
+        if (!m_filter) {
+            WindowView::Place(rect);
+            return;
+        }
+        const int filterHeight = m_filter->sizeHint().height();
+        m_filter->setGeometry(rect.left(), rect.top(), rect.width(), filterHeight);
+        m_widget->setGeometry(rect.adjusted(0, filterHeight + 2, 0, 0));
+    }
+
+    void NameAttachments(const QString& name) override
+    {
+        if (m_filter)
+            m_filter->setAccessibleName(QStringLiteral("Filter ") + name);
     }
 
 protected:
@@ -405,6 +437,14 @@ protected:
             if (!m_itemsDirty)
                 ApplySelection();
             break;
+        case WndAspect::Enabled:
+        case WndAspect::Visible:
+            WindowView::Apply(aspect);
+            if (m_filter) {
+                m_filter->setEnabled(m_widget->isEnabled());
+                m_filter->setHidden(m_widget->isHidden());
+            }
+            break;
         default: WindowView::Apply(aspect); break;
         }
     }
@@ -412,29 +452,68 @@ protected:
 private:
     CListCtrl* Model() const { return dynamic_cast<CListCtrl*>(m_wnd); }
 
+    // Typing narrows the list at once; the model keeps the words typed.
+    void AddFilterField(QWidget* container)
+    {
+        m_filter = new QLineEdit(container);
+        m_filter->setObjectName(QStringLiteral("filter%1").arg(m_wnd->GetDlgCtrlID()));
+        m_filter->setPlaceholderText(QStringLiteral("Filter"));
+        m_filter->setToolTip(QStringLiteral("Shows only the variables whose names hold this text, in any case"));
+        m_filter->setClearButtonEnabled(true);
+        // Before the list in the Tab order, right after the list's label.
+        QWidget::setTabOrder(m_filter, m_widget);
+        QObject::connect(m_filter, &QLineEdit::textChanged, m_filter, [this](const QString& text) {
+            m_run.Input(this, [this, &text] { return Model() && CUserInput::FilterItems(*Model(), FromQt(text)); });
+        });
+    }
+
+    // The model's item shown in widget row `row`, or -1.
+    int ItemOfRow(int row) const
+    {
+        if (row < 0 || static_cast<std::size_t>(row) >= m_rows.size())
+            return -1;
+        const int item = m_rows[static_cast<std::size_t>(row)];
+        return static_cast<std::size_t>(item) < m_kinds.size() ? item : -1;
+    }
+
+    QString KindText(int row) const
+    {
+        const int item = ItemOfRow(row);
+        return item >= 0 ? ToQt(kal::framework::VariableKindText(m_kinds[static_cast<std::size_t>(item)])) : QString();
+    }
+
+    // The model's items selected in the widget.
     std::vector<int> WidgetSelection() const
     {
-        std::vector<int> rows;
+        std::vector<int> items;
         for (const QModelIndex& index : static_cast<QListWidget*>(m_widget)->selectionModel()->selectedIndexes())
-            rows.push_back(index.row());
-        std::sort(rows.begin(), rows.end());
-        return rows;
+            if (index.row() >= 0 && static_cast<std::size_t>(index.row()) < m_rows.size())
+                items.push_back(m_rows[static_cast<std::size_t>(index.row())]);
+        std::sort(items.begin(), items.end());
+        return items;
     }
 
     void ApplySelection()
     {
         auto* list = static_cast<QListWidget*>(m_widget);
-        if (!Model() || list->count() != Model()->GetItemCount())
+        if (!Model() || static_cast<std::size_t>(list->count()) != m_rows.size())
             return;
         const std::vector<int> wanted = Model()->GetSelectedItems();
         if (wanted == WidgetSelection())
             return;
+        // Shown items are m_rows in order, so the rows of a run of selected
+        // items are a run too.
+        std::vector<int> rows;
+        rows.reserve(wanted.size());
+        for (const int item : wanted)
+            if (const auto it = std::lower_bound(m_rows.begin(), m_rows.end(), item); it != m_rows.end() && *it == item)
+                rows.push_back(static_cast<int>(it - m_rows.begin()));
         QItemSelection selection;
-        for (std::size_t i = 0; i < wanted.size();) {
+        for (std::size_t i = 0; i < rows.size();) {
             std::size_t j = i;
-            while (j + 1 < wanted.size() && wanted[j + 1] == wanted[j] + 1)
+            while (j + 1 < rows.size() && rows[j + 1] == rows[j] + 1)
                 ++j;
-            selection.select(list->model()->index(wanted[i], 0), list->model()->index(wanted[j], 0));
+            selection.select(list->model()->index(rows[i], 0), list->model()->index(rows[j], 0));
             i = j + 1;
         }
         DialogRun::SyncScope sync(m_run);
@@ -458,7 +537,9 @@ private:
     }
 
     bool m_itemsDirty = false;
+    std::vector<int> m_rows; // the model's item in each widget row
     std::vector<kal::framework::VariableKind> m_kinds;
+    QLineEdit* m_filter = nullptr;
 };
 
 // --- Tab control ------------------------------------------------------------------
@@ -478,9 +559,50 @@ public:
                 return model && CUserInput::SelectTab(*model, index);
             });
         });
+        // The page keys work wherever the focus is in the dialog, OK and
+        // Cancel included, not only inside the tab widget.
+        const std::pair<QKeySequence, int> pageKeys[] = {{QKeySequence(Qt::CTRL | Qt::Key_Tab), 1},
+                                                         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1},
+                                                         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab), -1},
+                                                         {QKeySequence(Qt::CTRL | Qt::Key_PageDown), 1},
+                                                         {QKeySequence(Qt::CTRL | Qt::Key_PageUp), -1}};
+        for (const auto& [keys, step] : pageKeys) {
+            auto* shortcut =
+                new QShortcut(keys, m_run.Window().isAncestorOf(tabs) ? static_cast<QWidget*>(&m_run.Window()) : tabs);
+            shortcut->setContext(Qt::WindowShortcut);
+            QObject::connect(shortcut, &QShortcut::activated, tabs, [this, step = step] { StepPage(step); });
+        }
     }
 
     void Resync() override { Apply(WndAspect::Selection); }
+
+    // The next (or previous) available page, and the focus into it: to its
+    // first control Tab reaches, or to the tabs when it has none to offer.
+    void StepPage(int step)
+    {
+        auto* tabs = static_cast<QTabWidget*>(m_widget);
+        const int count = tabs->count();
+        if (m_run.Syncing() || count == 0 || !tabs->isEnabled())
+            return;
+        int index = tabs->currentIndex();
+        for (int tried = 0; tried < count; ++tried) {
+            index = (index + step + count) % count;
+            if (tabs->isTabEnabled(index))
+                break;
+        }
+        tabs->setCurrentIndex(index);
+        QWidget* page = tabs->currentWidget();
+        for (QWidget* next = page ? page->nextInFocusChain() : nullptr; next && next != page;
+             next = next->nextInFocusChain()) {
+            if (!page->isAncestorOf(next))
+                break;
+            if ((next->focusPolicy() & Qt::TabFocus) && next->isEnabled() && next->isVisibleTo(page)) {
+                next->setFocus(Qt::TabFocusReason);
+                return;
+            }
+        }
+        tabs->tabBar()->setFocus(Qt::TabFocusReason);
+    }
 
 protected:
     void Apply(WndAspect aspect) override
@@ -534,6 +656,9 @@ public:
         table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
         table->horizontalHeader()->setStretchLastSection(true);
         table->setSelectionMode(QAbstractItemView::SingleSelection);
+        // Arrows walk the cells; Tab and Shift+Tab leave the grid, as they
+        // leave every other control.
+        table->setTabKeyNavigation(false);
         table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                                QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
         QObject::connect(table, &QTableWidget::itemChanged, table, [this](QTableWidgetItem* item) {
@@ -636,11 +761,10 @@ private:
 };
 
 // Single-line controls get at least their natural height, centred on the
-// template's rectangle; a combo box's template height is its drop-down's.
-QRect ControlGeometry(const DialogRun& run, const ControlTemplate& t, QWidget* widget)
+// control's rectangle; a combo box's template height is its drop-down's.
+QRect FitNaturalHeight(QRect rect, ControlKind kind, QWidget* widget)
 {
-    QRect rect = run.Scale(t.x, t.y, t.cx, t.cy);
-    switch (t.kind) {
+    switch (kind) {
     case ControlKind::ComboBox: rect.setHeight(widget->sizeHint().height()); break;
     case ControlKind::PushButton:
     case ControlKind::CheckBox:
@@ -678,7 +802,7 @@ std::unique_ptr<WindowView> MakeControlView(DialogRun& run, CWnd& control, QWidg
     QWidget* widget = view->Widget();
     widget->setObjectName(QStringLiteral("ctl%1").arg(control.GetDlgCtrlID()));
     if (const ControlTemplate* t = control.GetTemplate())
-        widget->setGeometry(ControlGeometry(run, *t, widget));
+        view->Place(run.Scale(t->x, t->y, t->cx, t->cy));
     // Template order is creation order, which is Qt's tab order; controls
     // without the tab-stop style take the focus by mouse only.
     for (QWidget* focus : {view->FocusWidget(), widget})
@@ -696,21 +820,31 @@ std::unique_ptr<WindowView> MakeDialogView(DialogRun& run, CDialog& dialog, QWid
 void ConnectSiblings(DialogRun& run, CDialog& dialog)
 {
     const std::vector<CWnd*>& children = dialog.GetChildren();
-    for (std::size_t i = 0; i < children.size(); ++i) {
-        auto* label = dynamic_cast<LabelView*>(run.ViewOf(children[i]));
-        if (!label)
+    // A static text that names no control (a hint) is no buddy and shows
+    // '&' as it is.
+    std::unordered_map<const CWnd*, QWidget*> buddies;
+    for (CWnd* child : children) {
+        WindowView* view = run.ViewOf(child);
+        const CWnd* label = dialog.GetLabelOf(*child);
+        if (!view || !label)
             continue;
-        QWidget* buddy = nullptr;
-        for (std::size_t j = i + 1; j < children.size() && !buddy; ++j) {
-            const ControlKind kind = children[j]->GetKind();
-            if (kind == ControlKind::Static || kind == ControlKind::GroupBox)
-                continue;
-            if (WindowView* next = run.ViewOf(children[j]))
-                buddy = next->FocusWidget();
-            break;
-        }
-        label->SetBuddy(buddy);
+        if (label->GetKind() == ControlKind::Static && !buddies.count(label))
+            buddies[label] = view->FocusWidget();
+        // Controls without a caption of their own are named by their label.
+        const ControlKind kind = child->GetKind();
+        if (kind == ControlKind::PushButton || kind == ControlKind::CheckBox || kind == ControlKind::RadioButton ||
+            kind == ControlKind::GroupBox || kind == ControlKind::Static)
+            continue;
+        const QString name = ToQt(dialog.GetLabelText(*child));
+        view->Widget()->setAccessibleName(name);
+        view->FocusWidget()->setAccessibleName(name);
+        view->NameAttachments(name);
     }
+    for (CWnd* child : children)
+        if (auto* label = dynamic_cast<LabelView*>(run.ViewOf(child))) {
+            const auto buddy = buddies.find(child);
+            label->SetBuddy(buddy == buddies.end() ? nullptr : buddy->second);
+        }
 
     WindowView* dialogView = run.ViewOf(&dialog);
     std::unordered_set<const CWnd*> grouped;
@@ -725,6 +859,10 @@ void ConnectSiblings(DialogRun& run, CDialog& dialog)
             if (WindowView* view = run.ViewOf(radio))
                 if (auto* button = qobject_cast<QAbstractButton*>(view->Widget())) {
                     group->addButton(button);
+                    // In a group the group alone decides what is checked;
+                    // auto-exclusive, the button is also told to readers as
+                    // a radio button, not a check box.
+                    button->setAutoExclusive(true);
                     views.push_back(view);
                 }
         }
@@ -764,6 +902,11 @@ void WindowView::SyncAll()
     DialogRun::SyncScope sync(m_run);
     for (const WndAspect aspect : kAllAspects)
         Apply(aspect);
+}
+
+void WindowView::Place(const QRect& rect)
+{
+    m_widget->setGeometry(FitNaturalHeight(rect, m_wnd->GetKind(), m_widget));
 }
 
 void WindowView::Apply(WndAspect aspect)

@@ -73,7 +73,7 @@ protected:
     WindowModel()
     {
         kal::SetDialogTemplateSource(TestTemplate);
-        kal::SetMessageBoxSink([this](UINT id) { messages.push_back(id); });
+        kal::SetMessageBoxSink([this](UINT id, const CString&) { messages.push_back(id); });
         previous = AfxSetDialogDriver(&driver);
     }
     ~WindowModel() override

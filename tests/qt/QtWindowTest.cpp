@@ -120,7 +120,7 @@ protected:
     QtWindow()
     {
         kal::SetDialogTemplateSource(Template);
-        kal::SetMessageBoxSink([this](UINT id) { messages.push_back(id); });
+        kal::SetMessageBoxSink([this](UINT id, const CString&) { messages.push_back(id); });
         previous = AfxSetDialogDriver(&driver);
     }
     ~QtWindow() override

@@ -114,8 +114,18 @@ TEST(KalhostRouting, RefusedAndUnavailableCommandsOpenNothing)
     const auto list = Kalhost({"list"});
     EXPECT_EQ(list.status, 0);
     EXPECT_EQ(list.out.rfind("DlgStat2 Module\n", 0), 0u) << list.out;
-    EXPECT_NE(list.out.find("2008  CAnalysisofVarianceMsg"), std::string::npos);
-    EXPECT_NE(list.out.find("2070  CRegressionMsg"), std::string::npos);
+    // A row reads id, menu path and title, classes, status.
+    const auto row = [](const std::string& out, const std::string& id) {
+        const std::size_t at = out.find("\n" + id + " ");
+        return at == std::string::npos ? std::string() : out.substr(at + 1, out.find('\n', at + 1) - at - 1);
+    };
+    const std::string anova = row(list.out, "2008");
+    EXPECT_LT(anova.find("Analysis of Variance > Estimate Model..."), anova.find("CAnalysisofVarianceMsg")) << anova;
+    EXPECT_TRUE(anova.ends_with(" available")) << anova;
+    EXPECT_TRUE(row(list.out, "2070").ends_with(" not available"));
+    const auto available = Kalhost({"list", "--available"});
+    EXPECT_EQ(row(available.out, "2070"), "");
+    EXPECT_EQ(row(available.out, "2008"), anova);
 }
 
 TEST(KalhostScripts, BadLinesFailedChecksAndDialogsLeftOpen)
@@ -183,6 +193,11 @@ TEST(KalhostCommandLine, TellsWhatItIsWhatItWantsAndHowItEnded)
     const auto version = Kalhost({"--version"});
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.out.rfind("kalhost ", 0), 0u) << version.out;
+
+    const auto bare = Kalhost({"--store", "x.store"});
+    EXPECT_EQ(bare.status, 2);
+    EXPECT_EQ(bare.out.rfind("Usage: kalhost", 0), 0u) << bare.out;
+    EXPECT_NE(bare.out.find("samples/anova.kal"), std::string::npos) << bare.out;
 
     const auto bogus = Kalhost({"--write-all", "bogus", "2008"});
     EXPECT_EQ(bogus.status, 2);
