@@ -531,14 +531,19 @@ bool AsksForHelpOrVersion(int argc, char** argv)
 // the sample named where this kalhost finds it.
 std::string FirstContactUsage()
 {
-    const std::string sample = FindPackageFile("samples/anova.kal", ProgramDirectory()).string();
+    std::filesystem::path sample = FindPackageFile("samples/anova.kal", ProgramDirectory());
+    // Named from where the user stands when that is shorter (a clone's root).
+    std::error_code error;
+    if (const auto near = std::filesystem::relative(sample, std::filesystem::current_path(), error);
+        !error && !near.empty() && *near.begin() != "..")
+        sample = near;
     return "Usage: kalhost [options] list|open|play|commands|store-dump ...   (kalhost --help tells more)\n"
            "\n"
            "  kalhost list --available                    the analyses you can open, with their ids\n"
            "  kalhost --data my.csv open 2008 --gui       an analysis of variance on your CSV, in a window\n"
            "  kalhost play " +
-           sample +
-           "   a sample session: its command lines are printed\n"
+           sample.string() + std::string(sample.string().size() < 31 ? 31 - sample.string().size() : 1, ' ') +
+           "a sample session: its command lines are printed\n"
            "\n"
            "Without --data the built-in sample data sheet is open.\n";
 }

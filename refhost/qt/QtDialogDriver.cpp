@@ -156,10 +156,11 @@ void ShowHelpDocument(QWidget* parent, const QString& url, const QString& descri
         return;
     QMessageBox box(QMessageBox::Information, QStringLiteral("Help"),
                     url.isEmpty() ? QStringLiteral("The help of this analysis cannot be shown.")
-                                  : QStringLiteral("The desktop has no viewer for the help document."),
+                                  : QStringLiteral("No browser could open the help page of this analysis. It is here:"),
                     QMessageBox::Ok, parent);
     box.setObjectName(QStringLiteral("kalHelpMessage"));
-    box.setInformativeText(url.isEmpty() ? description : url);
+    const QUrl page(url);
+    box.setInformativeText(url.isEmpty() ? description : page.isLocalFile() ? page.toLocalFile() : url);
     box.exec();
 }
 

@@ -86,8 +86,10 @@ void DialogRun::BuildControls(CDialog& dialog, QWidget* container)
         const ControlTemplate* control = child->GetTemplate();
         if (!control)
             continue;
-        Register(MakeControlView(*this, *child, container));
-        WindowView* view = m_views.back().get();
+        // Registering a tab control builds its pages' views too.
+        std::unique_ptr<WindowView> made = MakeControlView(*this, *child, container);
+        WindowView* view = made.get();
+        Register(std::move(made));
         if (layout)
             layout->AddControl(control->kind, Scale(control->x, control->y, control->cx, control->cy),
                                [view](const QRect& rect) { view->Place(rect); });
@@ -97,12 +99,20 @@ void DialogRun::BuildControls(CDialog& dialog, QWidget* container)
 
 namespace {
 
-// Sizes the user gave dialogs, by template, for the rest of the run; on a
-// desktop they are kept in the user's settings for the next run too.
-std::map<UINT, QSize>& RememberedSizes()
+// Sizes the user gave dialogs, by dialog class (tab dialogs share their
+// template), for the rest of the run; on a desktop they are kept in the
+// user's settings for the next run too.
+std::map<QString, QSize>& RememberedSizes()
 {
-    static std::map<UINT, QSize> sizes;
+    static std::map<QString, QSize> sizes;
     return sizes;
+}
+
+QString DialogKey(const CDialog& dialog)
+{
+    return QStringLiteral("%1-%2")
+        .arg(QString::fromLatin1(dialog.GetRuntimeClass()->m_lpszClassName))
+        .arg(dialog.GetTemplateID());
 }
 
 bool KeepsSizesBetweenRuns()
@@ -110,21 +120,21 @@ bool KeepsSizesBetweenRuns()
     return QGuiApplication::platformName() != QStringLiteral("offscreen");
 }
 
-QString SizeKey(UINT templateId)
+QString SizeKey(const QString& dialog)
 {
-    return QStringLiteral("dialogs/%1/size").arg(templateId);
+    return QStringLiteral("dialogs/%1/size").arg(dialog);
 }
 
 } // namespace
 
 void DialogRun::RestoreSize()
 {
-    const UINT id = m_dialog.GetTemplateID();
+    const QString key = DialogKey(m_dialog);
     QSize size;
-    if (const auto it = RememberedSizes().find(id); it != RememberedSizes().end())
+    if (const auto it = RememberedSizes().find(key); it != RememberedSizes().end())
         size = it->second;
     else if (KeepsSizesBetweenRuns())
-        size = QSettings().value(SizeKey(id)).toSize();
+        size = QSettings().value(SizeKey(key)).toSize();
     m_window->adjustSize();
     if (size.isValid())
         m_window->resize(size.expandedTo(m_window->minimumSizeHint()));
@@ -132,12 +142,14 @@ void DialogRun::RestoreSize()
 
 void DialogRun::RememberSize() const
 {
+    // The window may be gone from the screen by now; its size is kept.
     const QSize size = m_window->size();
-    if (!m_window->testAttribute(Qt::WA_WState_Created) || !size.isValid())
+    if (!size.isValid())
         return;
-    RememberedSizes()[m_dialog.GetTemplateID()] = size;
+    const QString key = DialogKey(m_dialog);
+    RememberedSizes()[key] = size;
     if (KeepsSizesBetweenRuns())
-        QSettings().setValue(SizeKey(m_dialog.GetTemplateID()), size);
+        QSettings().setValue(SizeKey(key), size);
 }
 
 void DialogRun::OnContextMenuKey()

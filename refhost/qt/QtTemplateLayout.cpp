@@ -132,7 +132,8 @@ void TemplateLayout::setGeometry(const QRect& rect)
         const bool acrossFollows = GrowsAcross(c.kind) || FollowsAcross(c.kind);
         const bool downFollows = GrowsDown(c.kind) || c.kind == ControlKind::GroupBox;
         const bool anchoredDown = t.top() + t.height() >= m_size.height() - m_anchorReach;
-        const auto [left, right] = MapSpan(m_x, t.left(), t.left() + t.width(), extraX, acrossFollows, anchoredRight[i]);
+        const auto [left, right] =
+            MapSpan(m_x, t.left(), t.left() + t.width(), extraX, acrossFollows, anchoredRight[i]);
         const auto [top, bottom] = MapSpan(m_y, t.top(), t.top() + t.height(), extraY, downFollows, anchoredDown);
         c.place(QRect(rect.left() + left, rect.top() + top, right - left, bottom - top));
     }

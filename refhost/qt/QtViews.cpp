@@ -549,6 +549,7 @@ public:
     TabView(DialogRun& run, CWnd& wnd, QWidget* container) : WindowView(run, wnd, new QTabWidget(container))
     {
         auto* tabs = static_cast<QTabWidget*>(m_widget);
+        InstallTabAccessibility();
         // The icon of an unavailable page fits the tab's text line, so that
         // the tabs keep their height when one becomes unavailable.
         const int extent = tabs->fontMetrics().height() - 3;

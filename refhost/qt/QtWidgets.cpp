@@ -2,6 +2,8 @@
 
 #include "refhost/qt/QtText.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QHelpEvent>
@@ -10,11 +12,14 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
+#include <QPointer>
 #include <QStyledItemDelegate>
+#include <QTabBar>
 #include <QToolButton>
 #include <QToolTip>
 
 #include <algorithm>
+#include <vector>
 
 namespace kalhost::qt::detail {
 
@@ -280,6 +285,132 @@ QIcon UnavailableIcon()
         return drawn;
     }();
     return icon;
+}
+
+namespace {
+
+// One tab of a tab bar, for readers; it lives as long as its bar's
+// interface.
+class TabAccessible final : public QAccessibleInterface, public QAccessibleActionInterface {
+public:
+    TabAccessible(QTabBar* bar, int index) : m_bar(bar), m_index(index) {}
+
+    bool isValid() const override { return m_bar && m_index < m_bar->count(); }
+    QObject* object() const override { return nullptr; }
+    QWindow* window() const override { return m_bar ? m_bar->window()->windowHandle() : nullptr; }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(m_bar.data()); }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+    QAccessibleInterface* focusChild() const override { return nullptr; }
+    void setText(QAccessible::Text, const QString&) override {}
+    QAccessible::Role role() const override { return QAccessible::PageTab; }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (!isValid())
+            return {};
+        if (kind == QAccessible::Name)
+            return WithoutMnemonic(m_bar->tabText(m_index));
+        return kind == QAccessible::Description ? m_bar->tabToolTip(m_index) : QString();
+    }
+
+    QRect rect() const override
+    {
+        if (!isValid())
+            return {};
+        const QRect tab = m_bar->tabRect(m_index);
+        return QRect(m_bar->mapToGlobal(tab.topLeft()), tab.size());
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State s;
+        if (!isValid()) {
+            s.invalid = true;
+            return s;
+        }
+        s.disabled = !m_bar->isEnabled() || !m_bar->isTabEnabled(m_index);
+        s.invisible = !m_bar->isVisible() || !m_bar->isTabVisible(m_index);
+        s.selectable = !s.disabled;
+        s.selected = m_index == m_bar->currentIndex();
+        s.focused = s.selected && m_bar->hasFocus();
+        return s;
+    }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+    }
+    QStringList actionNames() const override { return {pressAction()}; }
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+    void doAction(const QString& name) override
+    {
+        if (name == pressAction() && isValid() && m_bar->isTabEnabled(m_index))
+            m_bar->setCurrentIndex(m_index);
+    }
+
+private:
+    QPointer<QTabBar> m_bar;
+    int m_index;
+};
+
+class TabBarAccessible final : public QAccessibleWidget {
+public:
+    explicit TabBarAccessible(QTabBar* bar) : QAccessibleWidget(bar, QAccessible::PageTabList) {}
+    ~TabBarAccessible() override
+    {
+        for (const QAccessible::Id id : m_tabs)
+            QAccessible::deleteAccessibleInterface(id);
+    }
+    TabBarAccessible(const TabBarAccessible&) = delete;
+    TabBarAccessible& operator=(const TabBarAccessible&) = delete;
+
+    int childCount() const override { return Bar()->count(); }
+    QAccessibleInterface* child(int index) const override
+    {
+        if (index < 0 || index >= Bar()->count())
+            return nullptr;
+        while (m_tabs.size() <= static_cast<std::size_t>(index))
+            m_tabs.push_back(
+                QAccessible::registerAccessibleInterface(new TabAccessible(Bar(), static_cast<int>(m_tabs.size()))));
+        return QAccessible::accessibleInterface(m_tabs[static_cast<std::size_t>(index)]);
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        for (std::size_t i = 0; i < m_tabs.size(); ++i)
+            if (QAccessible::accessibleInterface(m_tabs[i]) == child)
+                return static_cast<int>(i);
+        return -1;
+    }
+    QAccessibleInterface* focusChild() const override
+    {
+        return Bar()->hasFocus() ? child(Bar()->currentIndex()) : nullptr;
+    }
+
+private:
+    QTabBar* Bar() const { return static_cast<QTabBar*>(widget()); }
+
+    mutable std::vector<QAccessible::Id> m_tabs;
+};
+
+QAccessibleInterface* TabBarFactory(const QString& className, QObject* object)
+{
+    if (className == QLatin1String("QTabBar") && qobject_cast<QTabBar*>(object))
+        return new TabBarAccessible(static_cast<QTabBar*>(object));
+    return nullptr;
+}
+
+} // namespace
+
+void InstallTabAccessibility()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(&TabBarFactory);
+        return true;
+    }();
+    (void)installed;
 }
 
 FileEditWidget::FileEditWidget(QWidget* parent)

@@ -87,6 +87,11 @@ QIcon VariableKindIcon(kal::framework::VariableKind kind);
 // through.
 QIcon UnavailableIcon();
 
+// Makes screen readers hear a tab that cannot be chosen as disabled, with
+// its tip (why) as its description: Qt's own interface reports each tab as
+// enabled as the whole bar is. Once per process; later calls do nothing.
+void InstallTabAccessibility();
+
 // A line edit with a "..." button beside it.
 class FileEditWidget : public QWidget {
 public:

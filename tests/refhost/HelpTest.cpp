@@ -1,7 +1,8 @@
 // The Help button of every available dialog, headless through kalhost: it
-// names the section of docs/commands.md that documents the analysis (the
-// heading that carries its command id, anchored as GitHub renders it) and
-// where that document is, and leaves the dialog as it was.
+// names the user's page of the analysis and where that page is, and leaves
+// the dialog as it was; the page leads to the section of docs/commands.md
+// that documents the analysis's lines (the heading that carries its command
+// id, anchored as GitHub renders it).
 #include "tests/support/Process.h"
 
 #include <gtest/gtest.h>
@@ -60,7 +61,7 @@ std::map<std::string, std::string> SectionsByCommand()
 
 } // namespace
 
-TEST(Help, EveryAvailableDialogNamesTheSectionOfItsAnalysis)
+TEST(Help, EveryAvailableDialogOpensAUsersPageThatLeadsToItsSection)
 {
     const auto sections = SectionsByCommand();
     ASSERT_FALSE(sections.empty());
@@ -75,10 +76,20 @@ TEST(Help, EveryAvailableDialogNamesTheSectionOfItsAnalysis)
         const auto r = RunProcess(KALHOST_PATH, {"open", id, "--actions", "-"}, "click 9\nclick 9\nok\n");
         EXPECT_EQ(r.status, 0) << r.err;
         EXPECT_EQ(r.out, plain.out);
-        const std::string line = "kalhost: help for command " + id + ": commands.md#" + sections.at(id) + " (";
-        EXPECT_NE(r.err.find(line), std::string::npos) << r.err;
-        EXPECT_NE(r.err.find("/docs/commands.md)"), std::string::npos) << r.err;
         EXPECT_EQ(r.err.find("assertion:"), std::string::npos) << r.err;
+        // The user's page of the analysis, found in the docs, names the
+        // command and links to the reference of its lines.
+        const std::string said = "kalhost: help for command " + id + ": ";
+        const std::size_t at = r.err.find(said + "help/");
+        ASSERT_NE(at, std::string::npos) << r.err;
+        const std::size_t from = at + said.size();
+        const std::string page = r.err.substr(from, r.err.find(' ', from) - from);
+        EXPECT_NE(r.err.find("/docs/" + page + ")"), std::string::npos) << r.err;
+        std::ifstream file(std::string(KAL_SOURCE_DIR) + "/docs/" + page);
+        std::stringstream text;
+        text << file.rdbuf();
+        EXPECT_NE(text.str().find("(command " + id + ")"), std::string::npos) << page;
+        EXPECT_NE(text.str().find("../commands.md#" + sections.at(id) + ")"), std::string::npos) << page;
     }
 }
 
