@@ -49,7 +49,8 @@ bool IsFinite(T)
 } // namespace
 
 template <class T>
-void CDDXVDlg::ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, UINT messageId)
+void CDDXVDlg::ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, UINT messageId,
+                              const NumberRule* rule)
 {
     CWnd* control = pDX->PrepareCtrl(id);
     if (!control)
@@ -62,7 +63,7 @@ void CDDXVDlg::ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, U
     const Parsed result = Parse(control->GetWindowText(), parsed);
     if (result != Parsed::ok || !IsFinite(parsed))
         pDX->FailEntry(id, result == Parsed::outOfRange ? kMsgOutOfRange : messageId,
-                       NumberRule{std::is_integral_v<T>});
+                       rule ? *rule : NumberRule{std::is_integral_v<T>});
     value.m_Value = parsed;
     value.m_nState = value.m_Value == value.m_DefaultValue ? 1 : 0;
 }
@@ -93,19 +94,22 @@ bool CDDXVDlg::ReadKVText(const CWnd& control, CGUIData<double>& value)
     return ReadNumber(control, value);
 }
 
-void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<int>& value, UINT messageId)
+void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<int>& value, UINT messageId,
+                          const NumberRule* rule)
 {
-    ExchangeNumber(pDX, id, value, messageId);
+    ExchangeNumber(pDX, id, value, messageId, rule);
 }
 
-void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<unsigned int>& value, UINT messageId)
+void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<unsigned int>& value, UINT messageId,
+                          const NumberRule* rule)
 {
-    ExchangeNumber(pDX, id, value, messageId);
+    ExchangeNumber(pDX, id, value, messageId, rule);
 }
 
-void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<double>& value, UINT messageId)
+void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<double>& value, UINT messageId,
+                          const NumberRule* rule)
 {
-    ExchangeNumber(pDX, id, value, messageId);
+    ExchangeNumber(pDX, id, value, messageId, rule);
 }
 
 void CDDXVDlg::DDX_CheckState(CDataExchange* pDX, UINT id, CGUIDataWnd<int>& value)

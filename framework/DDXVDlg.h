@@ -19,15 +19,19 @@ public:
     // An edited number. Loading shows the value; storing reads it (message
     // `messageId` when it is not a number of the holder's type, 2012 when it
     // is one too large for it) and sets m_nState: 1 when the value equals
-    // m_DefaultValue, else 0.
-    static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<int>& value, UINT messageId);
+    // m_DefaultValue, else 0. The message says what the field takes: `rule`,
+    // or without one a number of the holder's type.
+    static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<int>& value, UINT messageId,
+                           const NumberRule* rule = nullptr);
     // Reads an edited number with no message: false, and `value` as it was,
     // when the control's text is not a number of the holder's type.
     static bool ReadKVText(const CWnd& control, CGUIData<int>& value);
     static bool ReadKVText(const CWnd& control, CGUIData<unsigned int>& value);
     static bool ReadKVText(const CWnd& control, CGUIData<double>& value);
-    static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<unsigned int>& value, UINT messageId);
-    static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<double>& value, UINT messageId);
+    static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<unsigned int>& value, UINT messageId,
+                           const NumberRule* rule = nullptr);
+    static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<double>& value, UINT messageId,
+                           const NumberRule* rule = nullptr);
     // A check box and its enable state.
     static void DDX_CheckState(CDataExchange* pDX, UINT id, CGUIDataWnd<int>& value);
     // When storing: `value` must lie within [min, max] (message `messageId`);
@@ -57,7 +61,8 @@ public:
 
 private:
     template <class T>
-    static void ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, UINT messageId);
+    static void ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, UINT messageId,
+                               const NumberRule* rule);
     template <class T>
     static bool ReadNumber(const CWnd& control, CGUIData<T>& value);
 };

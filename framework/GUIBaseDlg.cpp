@@ -682,14 +682,9 @@ void CGUIBaseDlg::ExchangeNumberField(CDataExchange* pDX, const CFieldExchange& 
     const bool ranged = field.rangeMessage != 0;
     const NumberRule rule =
         ranged ? NumberRule::Between(field.min, field.max, std::is_integral_v<T>) : NumberRule{std::is_integral_v<T>};
-    if (const CWnd* control = GetDlgItem(field.control); pDX->m_bSaveAndValidate && control && ranged) {
-        // Text that is no number is refused with the range too, so that the
-        // message says at once what the field takes.
-        CGUIData<T> probe = value;
-        if (!ReadKVText(*control, probe))
-            pDX->FailEntry(field.control, parseMessage, rule);
-    }
-    DDX_KVText(pDX, field.control, value, parseMessage);
+    // Text that is no number is refused with the range too, so that the
+    // message says at once what the field takes.
+    DDX_KVText(pDX, field.control, value, parseMessage, &rule);
     if (!pDX->m_bSaveAndValidate || !ranged)
         return;
     const double v = static_cast<double>(value.m_Value);

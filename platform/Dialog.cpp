@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <optional>
 #include <utility>
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -312,8 +313,11 @@ const CWnd* CDialog::GetLabelOf(const CWnd& control) const
             return *it;
         break;
     }
-    // Else by place: a caption on the same row to the left ("Continuous"
-    // before its measure), else one just above (a check box over its grid).
+    // Else, for a control without a caption of its own, by place: a caption
+    // on the same row to the left ("Continuous" before its measure), else
+    // one just above (a check box over its grid).
+    if (!self->caption.IsEmpty())
+        return nullptr;
     constexpr int kAboveReach = 14; // dialog units between a caption and the field below it
     const CWnd* best = nullptr;
     int bestDistance = 0;
@@ -322,15 +326,15 @@ const CWnd* CDialog::GetLabelOf(const CWnd& control) const
             if (child == &control || !IsCaptionedLabel(*child))
                 continue;
             const ControlTemplate& t = *child->GetTemplate();
-            int distance = -1;
+            std::optional<int> distance;
             if (sameRow && t.y < self->y + self->cy && t.y + t.cy > self->y && t.x + t.cx <= self->x + 2)
                 distance = self->x - (t.x + t.cx);
             if (!sameRow && t.x < self->x + self->cx && t.x + t.cx > self->x && t.y + t.cy <= self->y + 1 &&
                 self->y - (t.y + t.cy) <= kAboveReach)
                 distance = self->y - (t.y + t.cy);
-            if (distance >= -2 && (!best || distance < bestDistance)) {
+            if (distance && (!best || *distance < bestDistance)) {
                 best = child;
-                bestDistance = distance;
+                bestDistance = *distance;
             }
         }
         if (best)

@@ -59,9 +59,10 @@ public:
 
     // The static text, check box or radio button whose caption names
     // `control` (null when none does): a static text ending in ':' just
-    // before it in template order (group boxes aside), else the nearest
-    // captioned control to its left on the same row, else one just above
-    // it. Readers, messages and mnemonics all name a field by it.
+    // before it in template order (group boxes aside), else, for a control
+    // without a caption of its own, the nearest captioned control to its
+    // left on the same row, else one just above it. Readers, messages and
+    // mnemonics all name a field by it.
     const CWnd* GetLabelOf(const CWnd& control) const;
     // That label's caption as a reader says it: no mnemonic marks, no
     // trailing ':'; empty when the control has no label.

@@ -273,14 +273,16 @@ int ListCommands(Session& session, bool availableOnly)
     using Row = std::array<std::string, 6>; // id, menu, handler, dialog, settings, status
     std::vector<Row> rows{{"id", "menu", "handler", "dialog", "settings", "status"}};
     for (const auto& c : session.Module().Commands())
-        if (c.available || !availableOnly)
-            rows.push_back({std::to_string(c.id), MenuPath(session.Resources().GetMenuBar(), c.id), c.handler,
-                            c.dialogClass, c.settingsClass, c.available ? "available" : "not available"});
+        rows.push_back({std::to_string(c.id), MenuPath(session.Resources().GetMenuBar(), c.id), c.handler,
+                        c.dialogClass, c.settingsClass, c.available ? "available" : "not available"});
+    // The columns are as wide with --available as without.
     std::array<std::size_t, 6> widths{};
     for (const Row& row : rows)
         for (std::size_t i = 0; i + 1 < row.size(); ++i)
             widths[i] = std::max(widths[i], row[i].size() + 2);
     for (const Row& row : rows) {
+        if (availableOnly && row.back() == "not available")
+            continue;
         for (std::size_t i = 0; i + 1 < row.size(); ++i)
             std::cout << std::left << std::setw(static_cast<int>(widths[i])) << row[i];
         std::cout << row.back() << '\n';

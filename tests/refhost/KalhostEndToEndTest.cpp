@@ -128,6 +128,28 @@ TEST(KalhostRouting, RefusedAndUnavailableCommandsOpenNothing)
     EXPECT_EQ(row(available.out, "2008"), anova);
 }
 
+TEST(KalhostScripts, FiltersNarrowSourceListsAndRefusedNumbersNameTheirField)
+{
+    // Hidden variables keep their selection but stay where they are; a
+    // hidden name cannot be picked, and target lists have no filter.
+    const auto filtered = Kalhost({"open", "2008", "--actions", "-"},
+                                  "select 1075 X Y\nfilter 1075 y\nexpect items 1075 Y Y2\nclick 1067\n"
+                                  "filter 1075\nclick 1066\nok\n");
+    EXPECT_EQ(filtered.status, 0) << filtered.err;
+    EXPECT_EQ(filtered.out, "ANOVA\nDEPEND Y\nCATEGORY A B / REPLACE\nCOVAR X\nESTIMATE / SS = TYPE3\n");
+    const auto hidden = Kalhost({"open", "2008", "--actions", "-"}, "filter 1075 T\nselect 1075 X\n");
+    EXPECT_EQ(hidden.status, 2);
+    EXPECT_NE(hidden.err.find("does not show \"X\": its filter \"T\" hides it"), std::string::npos) << hidden.err;
+    EXPECT_EQ(Kalhost({"open", "2008", "--actions", "-"}, "filter 1071 Y\n").status, 2);
+
+    const auto refused = Kalhost({"open", "2051", "--actions", "-"}, "page 1\nclick 4172\ntype 4156 0\nok\n");
+    EXPECT_EQ(refused.err, "message 2012: The value is out of range. Maximum steps: a whole number from 1 to "
+                           "2147483647.\n");
+    const auto open =
+        Kalhost({"--data", Sample("commute.csv"), "open", "2004", "--actions", "-"}, "page 3\ntype 2744 0\nok\n");
+    EXPECT_NE(open.err.find("Convergence: a number greater than 0.\n"), std::string::npos) << open.err;
+}
+
 TEST(KalhostScripts, BadLinesFailedChecksAndDialogsLeftOpen)
 {
     const auto bad = Kalhost({"play", "-"}, "open 2008\nselect 1075 Y\nclik 1067\nok\n");
