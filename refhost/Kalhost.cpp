@@ -23,6 +23,7 @@
 #include <functional>
 #include <iomanip>
 #include <iostream>
+#include <map>
 #include <optional>
 #include <set>
 #include <sstream>
@@ -246,21 +247,20 @@ private:
     std::optional<LoadedModule> m_module;
 };
 
-// Where command `id` sits in the menus, as a user reads it: "Analysis of
+// Where each command sits in the menus, as a user reads it: "Analysis of
 // Variance > Estimate Model..." (the menu bar's own entry and the mnemonic
-// marks left out).
-std::string MenuPath(const std::vector<MenuNode>& nodes, UINT id, const std::string& above = {}, bool top = true)
+// marks left out). One walk of the menus for all commands.
+void CollectMenuPaths(const std::vector<MenuNode>& nodes, const std::string& above, bool top,
+                      std::map<UINT, std::string>& paths)
 {
     for (const auto& node : nodes) {
         CString text = node.text;
         text.Remove(u'&');
         const std::string path = top ? std::string() : above + (above.empty() ? "" : " > ") + text.ToUtf8();
-        if (node.id == id && id != 0)
-            return path;
-        if (auto found = MenuPath(node.items, id, path, false); !found.empty())
-            return found;
+        if (node.id != 0)
+            paths.emplace(node.id, path);
+        CollectMenuPaths(node.items, path, false, paths);
     }
-    return {};
 }
 
 // One row per menu command: id first and status last, so that scripts read
@@ -270,11 +270,13 @@ int ListCommands(Session& session, bool availableOnly)
     // The trace line goes through the module's own wide stream.
     std::cout.flush();
     session.Module().Module().PrintModuleInfo();
+    std::map<UINT, std::string> menus;
+    CollectMenuPaths(session.Resources().GetMenuBar(), {}, true, menus);
     using Row = std::array<std::string, 6>; // id, menu, handler, dialog, settings, status
     std::vector<Row> rows{{"id", "menu", "handler", "dialog", "settings", "status"}};
     for (const auto& c : session.Module().Commands())
-        rows.push_back({std::to_string(c.id), MenuPath(session.Resources().GetMenuBar(), c.id), c.handler,
-                        c.dialogClass, c.settingsClass, c.available ? "available" : "not available"});
+        rows.push_back({std::to_string(c.id), menus[c.id], c.handler, c.dialogClass, c.settingsClass,
+                        c.available ? "available" : "not available"});
     // The columns are as wide with --available as without.
     std::array<std::size_t, 6> widths{};
     for (const Row& row : rows)
@@ -539,15 +541,16 @@ std::string FirstContactUsage()
     if (const auto near = std::filesystem::relative(sample, std::filesystem::current_path(), error);
         !error && !near.empty() && *near.begin() != "..")
         sample = near;
-    return "Usage: kalhost [options] list|open|play|commands|store-dump ...   (kalhost --help tells more)\n"
-           "\n"
-           "  kalhost list --available                    the analyses you can open, with their ids\n"
-           "  kalhost --data my.csv open 2008 --gui       an analysis of variance on your CSV, in a window\n"
-           "  kalhost play " +
-           sample.string() + std::string(sample.string().size() < 31 ? 31 - sample.string().size() : 1, ' ') +
-           "a sample session: its command lines are printed\n"
-           "\n"
-           "Without --data the built-in sample data sheet is open.\n";
+    const auto example = [](const std::string& command, const std::string& what) {
+        constexpr std::size_t kWhatColumn = 44;
+        return "  " + command + std::string(command.size() < kWhatColumn ? kWhatColumn - command.size() : 1, ' ') +
+               what + "\n";
+    };
+    return "Usage: kalhost [options] list|open|play|commands|store-dump ...   (kalhost --help tells more)\n\n" +
+           example("kalhost list --available", "the analyses you can open, with their ids") +
+           example("kalhost --data my.csv open 2008 --gui", "an analysis of variance on your CSV, in a window") +
+           example("kalhost play " + sample.string(), "a sample session: its command lines are printed") +
+           "\nWithout --data the built-in sample data sheet is open.\n";
 }
 
 // Output that did not reach its file (a full disk, a closed pipe) is a

@@ -198,6 +198,20 @@ const ResourceTable::Tables& ResourceTable::Parsed() const
     return m_tables;
 }
 
+const std::vector<MenuNode>& ResourceTable::GetMenuBar() const
+{
+    if (m_waiting.empty())
+        return m_tables.menus;
+    if (!m_menusAlone) {
+        auto tables = std::make_unique<Tables>();
+        for (const ResourceFile& file : m_waiting)
+            if (file.name.ends_with("menus.json"))
+                Add(*tables, file.name, file.json);
+        m_menusAlone = std::move(tables);
+    }
+    return m_menusAlone->menus;
+}
+
 void ResourceTable::AddFile(const std::string& fileName, std::string_view text)
 {
     Parsed(); // files keep their order

@@ -69,7 +69,9 @@ public:
     CString GetMessageText(UINT id) const;
     // The ids of every dialog template, ascending.
     std::vector<UINT> GetDialogIds() const;
-    const std::vector<MenuNode>& GetMenuBar() const { return Parsed().menus; }
+    // While the other files wait, only the menu file is read: kalhost list
+    // names each command's menu and still starts at once.
+    const std::vector<MenuNode>& GetMenuBar() const;
     // The help topic the menu gives command `id`, or empty.
     std::string GetHelpTopic(UINT id) const;
 
@@ -88,6 +90,7 @@ private:
 
     mutable std::vector<ResourceFile> m_waiting;
     mutable Tables m_tables;
+    mutable std::unique_ptr<Tables> m_menusAlone; // read ahead of the waiting files
 };
 
 } // namespace kalhost

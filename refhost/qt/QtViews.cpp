@@ -501,8 +501,8 @@ private:
         const std::vector<int> wanted = Model()->GetSelectedItems();
         if (wanted == WidgetSelection())
             return;
-        // Shown items are m_rows in order, so the rows of a run of selected
-        // items are a run too.
+        // m_rows ascends, so each selected item's row is found by halving;
+        // consecutive rows then go into the selection as one range.
         std::vector<int> rows;
         rows.reserve(wanted.size());
         for (const int item : wanted)
