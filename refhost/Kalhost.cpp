@@ -271,7 +271,7 @@ int ListCommands(Session& session, bool availableOnly)
     std::cout.flush();
     session.Module().Module().PrintModuleInfo();
     std::map<UINT, std::string> menus;
-    CollectMenuPaths(session.Resources().GetMenuBar(), {}, true, menus);
+    CollectMenuPaths(session.Resources().ReadMenuBarAlone(), {}, true, menus);
     using Row = std::array<std::string, 6>; // id, menu, handler, dialog, settings, status
     std::vector<Row> rows{{"id", "menu", "handler", "dialog", "settings", "status"}};
     for (const auto& c : session.Module().Commands())

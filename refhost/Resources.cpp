@@ -198,7 +198,7 @@ const ResourceTable::Tables& ResourceTable::Parsed() const
     return m_tables;
 }
 
-const std::vector<MenuNode>& ResourceTable::GetMenuBar() const
+const std::vector<MenuNode>& ResourceTable::ReadMenuBarAlone() const
 {
     if (m_waiting.empty())
         return m_tables.menus;

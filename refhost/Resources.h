@@ -69,9 +69,11 @@ public:
     CString GetMessageText(UINT id) const;
     // The ids of every dialog template, ascending.
     std::vector<UINT> GetDialogIds() const;
-    // While the other files wait, only the menu file is read: kalhost list
-    // names each command's menu and still starts at once.
-    const std::vector<MenuNode>& GetMenuBar() const;
+    const std::vector<MenuNode>& GetMenuBar() const { return Parsed().menus; }
+    // The menu bar read from the menu file alone while the other files wait
+    // (they are still checked at their first lookup): kalhost list names
+    // each command's menu and still starts at once.
+    const std::vector<MenuNode>& ReadMenuBarAlone() const;
     // The help topic the menu gives command `id`, or empty.
     std::string GetHelpTopic(UINT id) const;
 
