@@ -1,6 +1,5 @@
 // Correlations settings: the measure line and the clauses the options and
-// resampling pages join to it, the record bytes, copies and the source
-// refresh.
+// resampling pages join to it, and the record bytes.
 #include "Source/DlgStat2.h"
 #include "private/Multivariate/KDGCorrelationsTabData.h"
 #include "tests/support/ArchiveBytes.h"
@@ -256,72 +255,4 @@ TEST_F(CorrelationsSettings, RecordBytesFollowTheStoredFieldOrder)
              DataRecord(1, 0, 0.001, 0.001), DataRecord(1, 0, 0.0001, 0.0001), DataRecord(1, 1, 0.0, 0.0),
              DataRecord(1, 1, 0.0, 0.0), DataRecord(0, 0, 5.0, 8.0)});
     EXPECT_EQ(Store([&](CArchive& ar) { options.Serialize(ar); }), optionBytes);
-
-    CCorrOptionsData back;
-    Load(optionBytes, [&](CArchive& ar) { back.Serialize(ar); });
-    EXPECT_EQ(Store([&](CArchive& ar) { back.Serialize(ar); }), optionBytes);
-}
-
-TEST_F(CorrelationsSettings, TheTabRecordReloadsEveryPageAndFailsCutShort)
-{
-    SetPage({.rows = {u"X", u"Y"},
-             .columns = {u"Z"},
-             .sets = 1,
-             .dataType = 2,
-             .deletion = 1,
-             .measures = {1, 0, 3, 0, 0},
-             .save = 1,
-             .file = u"r.kvd"});
-    SetOptions({.em = 1, .distribution = 1, .df = Entered(12, 5)});
-    tab.GetBootStrapData()->SetAll(CBootStrapData::methodBootstrap, CGUIData<int>(0, 99, 1000, 0, 1), CGUIData<int>(0),
-                                   CGUIData<unsigned int>(5u));
-    EXPECT_EQ(Line(), u"GOODMAN X Y*Z / PAIRWISE / EM T = 12 SAMPLE = BOOT(99) RSEED = 5");
-
-    for (const UINT schema : {UINT{CArchive::plainLists}, UINT{CArchive::namedLists}}) {
-        const Bytes bytes = Store([&](CArchive& ar) { tab.Serialize(ar); }, schema);
-        CCorrelationsTabData back;
-        Load(bytes, schema, [&](CArchive& ar) { back.Serialize(ar); });
-        CLIST<CCmdInfo> list;
-        back.GetCommandInfoList(list);
-        if (schema == CArchive::namedLists)
-            EXPECT_EQ(Lines(list), Commands());
-        else // counts, not names, come back
-            EXPECT_EQ(Lines(list).back(), u"GOODMAN * / PAIRWISE / EM T = 12 SAMPLE = BOOT(99) RSEED = 5");
-        const Bytes cut(bytes.begin(), bytes.end() - 5);
-        CCorrelationsTabData broken;
-        EXPECT_THROW(Load(cut, schema, [&](CArchive& ar) { broken.Serialize(ar); }), CArchiveException);
-    }
-}
-
-TEST(CorrelationsSource, FillsFromTheSheetAndDropsVariablesItNoLongerHas)
-{
-    FakeHost host;
-    IModule* module = GetModuleFactory(&host);
-    host.SetVariables({u"X", u"Y", u"S$"});
-    CCorrelationsTabData tab;
-    Set(*tab.GetCorrelationsData(), {.rows = {u"gone", u"Y"}, .columns = {u"S$", u"old"}});
-    tab.FillListSource();
-    CGUIArray<CGUIDataVariable> source, rows, columns;
-    int i[9];
-    CString file;
-    const auto read = [&] {
-        tab.GetCorrelationsData()->GetAll(source, rows, columns, i[0], i[1], i[2], i[3], i[4], i[5], i[6], i[7], i[8],
-                                          file);
-    };
-    read();
-    ASSERT_EQ(source.GetSize(), 3);
-    EXPECT_EQ(source[2].GetVariableType(), NmsEnum::VT_STRING);
-    ASSERT_EQ(rows.GetSize(), 1);
-    EXPECT_EQ(rows[0].GetVariableName(), CString(u"Y"));
-    ASSERT_EQ(columns.GetSize(), 1);
-    EXPECT_EQ(columns[0].GetVariableName(), CString(u"S$"));
-
-    // Without a valid sheet the choices stay as they are.
-    host.sheet.valid = false;
-    Set(*tab.GetCorrelationsData(), {.rows = {u"gone"}});
-    tab.FillListSource();
-    read();
-    EXPECT_EQ(rows.GetSize(), 1);
-    EXPECT_EQ(source.GetSize(), 0);
-    module->Release();
 }
