@@ -70,109 +70,23 @@ protected:
 
 } // namespace
 
-TEST_F(CorrelationsSettings, DefaultsWriteTheFirstMeasureAndKeepOneTrailingBlank)
+// What the dialog cannot set: a data type or an adjustment the resources do
+// not know writes no keyword; probabilities follow the Pearson choice of
+// continuous data whatever the data type.
+TEST_F(CorrelationsSettings, UnknownChoicesWriteNoKeywordAndProbabilitiesFollowThePearsonChoice)
 {
-    SetPage({.rows = {u"X", u"X2"}});
-    EXPECT_EQ(Commands(), (Lines16{u"CORR", u"PEARSON X X2 "}));
-}
-
-TEST_F(CorrelationsSettings, EachDataTypeReadsItsOwnListOfMeasures)
-{
-    tab.GetCorrOptionsData()->SetWindowState(0);
-    const std::array<int, 5> measures = {2, 2, 4, 1, 4};
-    const std::u16string keywords[] = {u"SSCP", u"MINKOWSKI", u"MU2", u"CRAMER", u"TANIMOTO"};
-    for (int type = 0; type < 5; ++type) {
-        SetPage({.rows = {u"X", u"Y"}, .dataType = type, .measures = measures});
-        EXPECT_EQ(Line(), keywords[type] + u" X Y");
-    }
-    // A data type the resources do not know has no keyword.
     SetPage({.rows = {u"X"}, .dataType = 7});
-    EXPECT_EQ(Line(), u" X");
-}
-
-TEST_F(CorrelationsSettings, TwoSetsCrossTheRowsWithTheColumns)
-{
-    SetPage({.rows = {u"X", u"X2"}, .columns = {u"Y", u"'odd'"}, .sets = 1});
-    EXPECT_EQ(Line(), u"PEARSON X X2*Y '''odd''' ");
-    SetPage({.rows = {u"X", u"X2"}, .columns = {u"Y"}, .sets = 0});
-    EXPECT_EQ(Line(), u"PEARSON X X2 ");
-}
-
-TEST_F(CorrelationsSettings, PairwiseDeletionFollowsTheDataTypeAndTheEstimation)
-{
-    SetPage({.rows = {u"X", u"Y"}, .deletion = 1});
-    EXPECT_EQ(Line(), u"PEARSON X Y / PAIRWISE");
-    SetOptions({.em = 1});
-    EXPECT_EQ(Line(), u"PEARSON X Y / EM NORMAL = 0, 0");
-    SetOptions({.hadi = 1});
-    EXPECT_EQ(Line(), u"PEARSON X Y / HADI");
-    // Choices of an options page out of use do not count.
     tab.GetCorrOptionsData()->SetWindowState(0);
-    SetPage({.rows = {u"X", u"Y"}, .deletion = 1, .measures = {1, 0, 0, 0, 0}});
-    EXPECT_EQ(Line(), u"COVARIANCE X Y / PAIRWISE");
+    EXPECT_EQ(Line(), u" X");
     tab.GetCorrOptionsData()->SetWindowState(1);
-
-    // Other data types write their deletion whatever the options say.
-    SetPage({.rows = {u"X", u"Y"}, .dataType = 2, .deletion = 1});
-    SetOptions({.em = 1});
-    EXPECT_EQ(Line(), u"SPEARMAN X Y / PAIRWISE / EM NORMAL = 0, 0");
-    SetOptions({.hadi = 1});
-    EXPECT_EQ(Line(), u"SPEARMAN X Y / PAIRWISE / HADI");
-    SetOptions({});
-    EXPECT_EQ(Line(), u"SPEARMAN X Y / PAIRWISE");
-}
-
-TEST_F(CorrelationsSettings, ProbabilitiesGoWithThePearsonChoiceWhateverTheDataType)
-{
-    const std::u16string corrections[] = {u" / BONF", u" / DUNN", u" / PROB", u" "};
-    for (int correction = 0; correction < 4; ++correction) {
-        SetPage({.rows = {u"X"}});
-        SetOptions({.probabilities = 1, .correction = correction == 3 ? 9 : correction});
-        EXPECT_EQ(Line(), u"PEARSON X" + corrections[correction]);
-    }
+    SetOptions({.probabilities = 1, .correction = 9});
+    SetPage({.rows = {u"X"}});
+    EXPECT_EQ(Line(), u"PEARSON X ");
     SetOptions({.probabilities = 1, .correction = 2});
-    SetPage({.rows = {u"X"}, .measures = {1, 0, 0, 0, 0}});
-    EXPECT_EQ(Line(), u"COVARIANCE X ");
     SetPage({.rows = {u"X"}, .dataType = 2, .measures = {0, 0, 1, 0, 0}});
     EXPECT_EQ(Line(), u"KENDALL X / PROB");
     SetPage({.rows = {u"X"}, .dataType = 2, .measures = {2, 0, 1, 0, 0}});
     EXPECT_EQ(Line(), u"KENDALL X ");
-}
-
-TEST_F(CorrelationsSettings, EmAndHadiClausesFollowTheirChoicesAndTheValueRules)
-{
-    SetPage({.rows = {u"X"}});
-    SetOptions({.em = 1, .normalFirst = Entered(0.1, 0), .normalSecond = Entered(3, 0)});
-    EXPECT_EQ(Line(), u"PEARSON X / EM NORMAL = 0.1, 3");
-    SetOptions({.em = 1, .distribution = 1});
-    EXPECT_EQ(Line(), u"PEARSON X / EM T");
-    SetOptions({.em = 1, .distribution = 1, .df = Entered(8, 5)});
-    EXPECT_EQ(Line(), u"PEARSON X / EM T = 8");
-    SetOptions({.em = 1,
-                .distribution = 1,
-                .iterations = CGUIData<int>(0, 50, 20, 0, 1),
-                .convergence = Entered(0.0001, 0.001)});
-    EXPECT_EQ(Line(), u"PEARSON X / EM T ITER = 50 CONV = 0.0001");
-    // An unknown distribution writes EM alone.
-    SetOptions({.em = 1, .distribution = 4, .df = Entered(8, 5)});
-    EXPECT_EQ(Line(), u"PEARSON X / EM");
-    SetOptions({.hadi = 1});
-    EXPECT_EQ(Line(), u"PEARSON X / HADI");
-    SetOptions({.hadi = 1, .tolerance = Entered(0.01, 0.0001)});
-    EXPECT_EQ(Line(), u"PEARSON X / HADI TOL = 0.01");
-    // Values without their switch write nothing.
-    SetOptions({.distribution = 1, .df = Entered(8, 5), .tolerance = Entered(0.01, 0.0001)});
-    EXPECT_EQ(Line(), u"PEARSON X ");
-
-    // Every option: the defaults are written too, except that the normal
-    // parameters are written as they always are.
-    host.writeEveryOption = true;
-    SetOptions({.em = 1, .distribution = 1});
-    EXPECT_EQ(Line(), u"PEARSON X / EM T = 5 ITER = 20 CONV = 0.001");
-    SetOptions({.em = 1});
-    EXPECT_EQ(Line(), u"PEARSON X / EM NORMAL = 0, 0 ITER = 20 CONV = 0.001");
-    SetOptions({.hadi = 1});
-    EXPECT_EQ(Line(), u"PEARSON X / HADI TOL = 0.0001");
 }
 
 TEST_F(CorrelationsSettings, TheSaveLineComesFirstAndPagesWithoutTheirTabWriteNoMeasureLine)
