@@ -1,6 +1,6 @@
 // The correlations tab dialog driven headless, for what its sessions in
-// tests/scripts cannot show: the data types as a table, the options page's
-// availability, refused entries and the focus, and impossible states.
+// tests/scripts cannot show: the options page's availability, refused
+// entries and the focus, and impossible states.
 #include "Source/DlgStat2.h"
 #include "platform/HeadlessDriver.h"
 #include "platform/UserInput.h"
@@ -48,46 +48,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(CorrelationsDialog, ChangingTheDataTypeEmptiesTheListsBetweenTheTwoClasses)
-{
-    struct Case {
-        int from, to;
-        bool emptied;
-    };
-    const Case cases[] = {
-        {0, 1, false}, {0, 4, false}, {4, 1, false}, {2, 3, false}, {3, 2, false}, // within a class
-        {0, 2, true},  {1, 3, true},  {4, 2, true},  {2, 4, true},  {3, 1, true},  // across
-        {2, 0, false}, {3, 0, false},                                              // back to continuous
-    };
-    Run([&, this](CHeadlessSession& s) {
-        s.Click(Page0::IDC_TWO_SETS);
-        for (const auto& c : cases) {
-            SCOPED_TRACE(std::to_string(c.from) + " to " + std::to_string(c.to));
-            s.Click(TypeRadio(c.from));
-            AddRows(s, {u"Y"});
-            s.Select(Page0::IDC_SOURCE_LIST, Names({u"X"}));
-            s.Click(Page0::IDC_ADD_COLUMNS);
-            s.Click(TypeRadio(c.to));
-            EXPECT_EQ(s.Items(Page0::IDC_ROW_LIST).empty(), c.emptied);
-            EXPECT_EQ(s.Items(Page0::IDC_COLUMN_LIST).empty(), c.emptied);
-            for (int type = 0; type < 5; ++type)
-                EXPECT_EQ(s.IsEnabled(TypeCombo(type)), type == c.to);
-        }
-        // Clicking the checked type again changes nothing.
-        s.Click(TypeRadio(0));
-        EXPECT_EQ(s.Items(Page0::IDC_ROW_LIST), Names({u"Y"}));
-        // After a reset the page starts from continuous data again.
-        s.Click(TypeRadio(3));
-        EXPECT_FALSE(OptionsAvailable());
-        s.Reset();
-        EXPECT_TRUE(OptionsAvailable());
-        AddRows(s, {u"Y"});
-        s.Click(TypeRadio(1));
-        EXPECT_EQ(s.Items(Page0::IDC_ROW_LIST), Names({u"Y"}));
-        s.Cancel();
-    });
-}
 
 TEST_F(CorrelationsDialog, TheOptionsPageIsAvailableForItsMeasuresOnly)
 {
