@@ -82,15 +82,24 @@ std::u16string BoundText(double value, bool whole)
 CString NumberRule::Describe(const CString& label) const
 {
     std::u16string text = whole ? u"a whole number" : u"a number";
-    if (bounded) {
-        const std::u16string lo = BoundText(min, whole);
+    // Bounds at the ends of what a double holds stand for "any": the
+    // smallest positive double for "above 0", the largest for "no limit".
+    constexpr double kNoLimit = std::numeric_limits<double>::max();
+    const bool aboveZero = min > 0 && min <= std::numeric_limits<double>::min();
+    const bool noLower = min <= -kNoLimit;
+    const bool noUpper = max >= kNoLimit;
+    if (bounded && !(noLower && noUpper)) {
+        const std::u16string lo = aboveZero ? u"0" : BoundText(min, whole);
         const std::u16string hi = BoundText(max, whole);
-        if (std::isinf(max))
-            text += (minOpen ? u" greater than " : u" of at least ") + lo;
-        else if (!minOpen && !maxOpen)
+        const bool lowerOpen = minOpen || aboveZero;
+        if (noUpper)
+            text += (lowerOpen ? u" greater than " : u" of at least ") + lo;
+        else if (noLower)
+            text += (maxOpen ? u" less than " : u" of at most ") + hi;
+        else if (!lowerOpen && !maxOpen)
             text += u" from " + lo + u" to " + hi;
         else
-            text += (minOpen ? u" greater than " : u" of at least ") + lo +
+            text += (lowerOpen ? u" greater than " : u" of at least ") + lo +
                     (maxOpen ? u" and less than " : u" and at most ") + hi;
     }
     text += u'.';

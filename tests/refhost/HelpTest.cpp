@@ -3,7 +3,7 @@
 // the dialog as it was; the page leads to the section of docs/commands.md
 // that documents the analysis's lines (the heading that carries its command
 // id, anchored as GitHub renders it).
-#include "tests/support/Process.h"
+#include "tests/support/Kalhost.h"
 
 #include <gtest/gtest.h>
 
@@ -12,19 +12,9 @@
 #include <map>
 #include <sstream>
 
-using kaltest::RunProcess;
+using namespace kaltest;
 
 namespace {
-
-std::vector<std::string> AvailableRows()
-{
-    std::vector<std::string> ids;
-    std::istringstream lines(RunProcess(KALHOST_PATH, {"list"}).out);
-    for (std::string line; std::getline(lines, line);)
-        if (line.ends_with(" available") && !line.ends_with("not available"))
-            ids.push_back(line.substr(0, line.find(' ')));
-    return ids;
-}
 
 // A heading's anchor as GitHub makes it: lower case, punctuation dropped,
 // blanks turned into hyphens.
@@ -72,8 +62,8 @@ TEST(Help, EveryAvailableDialogOpensAUsersPageThatLeadsToItsSection)
         ASSERT_TRUE(sections.count(id)) << "docs/commands.md has no section headed with (" << id << ")";
         // Help, then Help again from the keyboard's page: the dialog stays
         // open and unchanged, so OK writes what it would have written.
-        const auto plain = RunProcess(KALHOST_PATH, {"open", id, "--actions", "-"}, "ok\n");
-        const auto r = RunProcess(KALHOST_PATH, {"open", id, "--actions", "-"}, "click 9\nclick 9\nok\n");
+        const auto plain = Kalhost({"open", id, "--actions", "-"}, "ok\n");
+        const auto r = Kalhost({"open", id, "--actions", "-"}, "click 9\nclick 9\nok\n");
         EXPECT_EQ(r.status, 0) << r.err;
         EXPECT_EQ(r.out, plain.out);
         EXPECT_EQ(r.err.find("assertion:"), std::string::npos) << r.err;
