@@ -142,6 +142,21 @@ std::string Shown(const CString& text)
     return visible.ToUtf8();
 }
 
+// Keeps the first entry of each name: a source naming a variable twice
+// lists it once.
+void ListEachNameOnce(CGUIArray<CGUIDataVariable>& list)
+{
+    const auto nameOf = [&list](int i) -> std::u16string_view { return list[i].GetVariableName().Str(); };
+    CTextIndex names;
+    const int count = list.GetSize();
+    if (names.Build(count, nameOf) == count)
+        return;
+    std::vector<bool> repeated(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        repeated[static_cast<std::size_t>(i)] = names.Find(nameOf(i), nameOf) != i;
+    list.RemoveMarked(repeated);
+}
+
 } // namespace
 
 void CGUIBaseObj::Serialize(CArchive&)
@@ -184,19 +199,10 @@ void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUI
     // for the first time, and a list that already matches (a dialog opened
     // again).
     if (target->IsEmpty()) {
-        if (!bAdd)
-            return;
-        *target = *source;
-        CTextIndex names;
-        const int count = target->GetSize();
-        if (names.Build(count, nameOf(*target)) == count)
-            return;
-        // A source naming a variable twice lists it once.
-        std::vector<bool> repeated(static_cast<std::size_t>(count));
-        for (int i = 0; i < count; ++i)
-            repeated[static_cast<std::size_t>(i)] =
-                names.Find((*target)[i].GetVariableName().Str(), nameOf(*target)) != i;
-        target->RemoveMarked(repeated);
+        if (bAdd) {
+            *target = *source;
+            ListEachNameOnce(*target);
+        }
         return;
     }
     if (CompareTwoListCtrlArrays(*target, *source))
@@ -220,6 +226,16 @@ void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUI
                 inSource.Find((*source)[i].GetVariableName().Str(), nameOf(*source)) == i)
                 updated.Add((*source)[i]); // once, however often the source names it
     *target = std::move(updated);
+}
+
+void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, CGUIArray<CGUIDataVariable>&& source, int bAdd)
+{
+    if (target && target != &source && target->IsEmpty() && bAdd) {
+        *target = std::move(source);
+        ListEachNameOnce(*target);
+        return;
+    }
+    UpdateCtrlList(target, &source, bAdd);
 }
 
 void CGUIBaseObj::FillListSource() {}
