@@ -85,7 +85,7 @@ void CLogitData::FillListSource()
 {
     CGUIArray<CGUIDataVariable> all;
     CBaseGui::GetSourceVariable(&all, NmsEnum::ADD_ALL_VARIABLES, 0);
-    UpdateCtrlList(&m_SourceList, std::move(all), 1);
+    UpdateCtrlList(&m_SourceList, &all, 1);
     // Variables the open data sheet no longer has leave the model too.
     if (IsSheetOpen())
         for (CGUIArray<CGUIDataVariable>* list : {&m_DependentList, &m_IndependentList, &m_ConditionalList})

@@ -30,7 +30,7 @@ void CLogitSetsData::FillListSource()
 {
     CGUIArray<CGUIDataVariable> all;
     CBaseGui::GetSourceVariable(&all, NmsEnum::ADD_ALL_VARIABLES, 0);
-    UpdateCtrlList(&m_SourceList, std::move(all), 1);
+    UpdateCtrlList(&m_SourceList, &all, 1);
     // Set variables the open data sheet no longer has are dropped.
     if (CLogitData::IsSheetOpen())
         UpdateCtrlList(&m_SetList, &all, 0);

@@ -38,7 +38,7 @@ void CRegressionData::FillListSource()
 {
     CGUIArray<CGUIDataVariable> all;
     CBaseGui::GetSourceVariable(&all, NmsEnum::ADD_ALL_VARIABLES, 0);
-    UpdateCtrlList(&m_SourceList, std::move(all), 1);
+    UpdateCtrlList(&m_SourceList, &all, 1);
 
     // Variables the open data sheet no longer has leave the model too.
     IGlobal* host = kal::framework::Host();
