@@ -2,7 +2,9 @@
 // move 1,000 variables, confirm, write the lines. Reported at 10,000,
 // 100,000 and 1,000,000 variables; a linear dialog shows a ratio near 10
 // between sizes. The linear regression dialog does the same at 100,000
-// variables, reported against ANOVA's time of the same run.
+// variables, reported against ANOVA's time of the same run. At 1,000,000
+// variables the names no longer fit the processor's caches: the goal
+// allows a ratio of 12 to 100,000, and 100 ms.
 #include "Source/DlgStat2.h"
 #include "bench/BenchRatio.h"
 #include "platform/HeadlessDriver.h"
@@ -70,7 +72,7 @@ int main(int argc, char** argv)
     benchmark::RegisterBenchmark("anova_dialog/100000", kAnova, 100'000, Baseline("anova_dialog/10000", 11))
         ->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("anova_dialog/1000000", kAnova, 1'000'000,
-                                 Label({AtMost("ms", 300), Baseline("anova_dialog/100000")}))
+                                 Label({AtMost("ms", 100), Baseline("anova_dialog/100000", 12)}))
         ->Unit(benchmark::kMillisecond);
     // Within 1.2 times ANOVA's time is the target.
     benchmark::RegisterBenchmark("regression_dialog/100000", kRegression, 100'000, Baseline("anova_dialog/100000", 1.2))

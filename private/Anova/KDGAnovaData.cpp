@@ -41,7 +41,7 @@ void CAnovaData::FillListSource()
 {
     CGUIArray<CGUIDataVariable> all;
     CBaseGui::GetSourceVariable(&all, NmsEnum::ADD_ALL_VARIABLES, 0);
-    UpdateCtrlList(&m_SourceList, &all, 1);
+    UpdateCtrlList(&m_SourceList, std::move(all), 1);
 
     IGlobal* host = kal::framework::Host();
     IDataSheet* sheet = host ? host->GetActiveDataSheet() : nullptr;
