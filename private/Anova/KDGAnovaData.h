@@ -49,6 +49,7 @@ public:
     }
 
     int GetDependentVariableListCount() const { return m_DependentList.GetSize(); }
+    const CGUIArray<CGUIDataVariable>& GetDependentList() const { return m_DependentList; }
     CGUIArray<CGUIDataVariable> GetFactorList() const { return m_FactorList; }
     CGUIArray<CGUIDataVariable> GetCovariateList() const { return m_CovariateList; }
     int IsFactorVariable(const CString& name) const { return CheckStringPresentinListCtrlArray(m_FactorList, name); }

@@ -54,6 +54,7 @@ public:
 
     int GetDependentVariableListCount() const { return m_DependentList.GetSize(); }
     const CGUIArray<CGUIDataVariable>& GetDependentList() const { return m_DependentList; }
+    const CGUIArray<CGUIDataVariable>& GetCategoryList() const { return m_CategoryList; }
     const CGUIArray<CString>& GetTerms() const { return m_Terms; }
 
     void GetCommandInfoList(CLIST<CCmdInfo>& list) const override;

@@ -43,6 +43,7 @@ const char* const kGlmLines = "GLM\n"
                               "MODEL Y = CONSTANT+A+B+A*B+X+X*X\n"
                               "CATEGORY A B / REPLACE\n"
                               "ESTIMATE / SS = TYPE3\n";
+const char* const kPairwiseLines = "GLM\nHYPOTHESIS\nPOST A / BONF CONFI = 0.9\nERROR 'A*B'\nTEST\n";
 const char* const kChoiceLines = "LOGIT\n"
                                  "SET avail1 avail2 avail3 / INDICATORS\n"
                                  "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
@@ -71,6 +72,11 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          // The terms come back; without the quadratic term the model is smaller.
          "expect items 2138 A B A*B X X*X\nexpect items 2126 A B\nselect 2138 X*X\nclick 2139\nok\n", 0, "",
          "GLM\nMODEL Y = CONSTANT+A+B+A*B+X\nCATEGORY A B / REPLACE\nESTIMATE / SS = TYPE3\n"},
+        {"glm-pairwise.kal", "",
+         "GLM\nMODEL Y = CONSTANT+A+B+A*B\nCATEGORY A B / REPLACE\nESTIMATE / SS = TYPE3\n" +
+             std::string(kPairwiseLines),
+         "2012", kPairwiseLines, "expect combo 2166 3\nexpect checked 2161 1\nexpect text 2168 0.9\nok\n", 0, "",
+         kPairwiseLines},
         {"regression.kal", "",
          std::string("REGRESS\nMODEL Y = CONSTANT+X+X2\nSAVE 'residuals.kvd' / RESIDUALS\n"
                      "ESTIMATE / CONFI = 0.9 NTEST = SW\n") +
