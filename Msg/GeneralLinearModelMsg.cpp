@@ -2,6 +2,7 @@
 
 #include "Msg/LaunchDialog.h"
 #include "private/Anova/KDGGLMTabDlg.h"
+#include "private/Anova/KDGHypothesisTabDlg.h"
 #include "private/Anova/KDGPairwiseTabDlg.h"
 
 namespace {
@@ -10,7 +11,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW(2010, CGLMTabDlg, CGLMTabData, 2100),
     KAL_MENU_ROW_UNAVAILABLE(2011, CHypPairwiseDlg, CHypPairwiseData),
     KAL_MENU_ROW(2012, CPairwiseTabDlg, CPairwiseTabData),
-    KAL_MENU_ROW_UNAVAILABLE(2013, CHypothesisTabDlg, CHypothesisTabData, 2105),
+    KAL_MENU_ROW(2013, CHypothesisTabDlg, CHypothesisTabData, 2105),
 };
 
 } // namespace

@@ -34,6 +34,13 @@ UINT CLastModel::ModelCommand(UINT testCommand)
     }
 }
 
+UINT CLastModel::TestCommandOf(const CGUIBaseObj& page)
+{
+    CGUIBaseObj* parent = nullptr;
+    page.GetParent(parent);
+    return parent ? parent->GetDialogID() : page.GetDialogID();
+}
+
 UINT CLastModel::ModuleId(UINT testCommand)
 {
     return ModelCommand(testCommand) == kAnovaCommand ? CAnovaData::kModuleAnova : CGLMData::kModuleGlm;

@@ -22,6 +22,9 @@ public:
     static CLastModel For(UINT testCommand);
     // The command whose settings hold the model of `testCommand` (0: none).
     static UINT ModelCommand(UINT testCommand);
+    // The command a page of a test dialog serves: its tab settings' dialog
+    // id (the page's own for a page on its own).
+    static UINT TestCommandOf(const class CGUIBaseObj& page);
     // The module-name string id of the model's module.
     static UINT ModuleId(UINT testCommand);
 

@@ -53,9 +53,7 @@ void CPairwiseData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
 
 UINT CPairwiseData::GetTestCommand() const
 {
-    CGUIBaseObj* parent = nullptr;
-    GetParent(parent);
-    return parent ? parent->GetDialogID() : GetDialogID();
+    return CLastModel::TestCommandOf(*this);
 }
 
 void CPairwiseData::FollowModel(const CLastModel& model)

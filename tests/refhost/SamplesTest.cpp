@@ -44,6 +44,7 @@ const char* const kGlmLines = "GLM\n"
                               "CATEGORY A B / REPLACE\n"
                               "ESTIMATE / SS = TYPE3\n";
 const char* const kPairwiseLines = "GLM\nHYPOTHESIS\nPOST A / BONF CONFI = 0.9\nERROR 'A*B'\nTEST\n";
+const char* const kHypothesisLines = "GLM\nHYPOTHESIS\nEFFECT = A\nCONTRAST [ 1 -1 0; 0 1 -1 ]\nERROR 'A*B'\nTEST\n";
 const char* const kChoiceLines = "LOGIT\n"
                                  "SET avail1 avail2 avail3 / INDICATORS\n"
                                  "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
@@ -77,6 +78,11 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
              std::string(kPairwiseLines),
          "2012", kPairwiseLines, "expect combo 2166 3\nexpect checked 2161 1\nexpect text 2168 0.9\nok\n", 0, "",
          kPairwiseLines},
+        {"glm-hypothesis.kal", "",
+         "GLM\nMODEL Y = CONSTANT+A+B+A*B\nCATEGORY A B / REPLACE\nESTIMATE / SS = TYPE3\n" +
+             std::string(kHypothesisLines),
+         "2013", kHypothesisLines, "expect checked 2189 1\npage 1\nexpect checked 2205 1\nok\n", 0, "",
+         kHypothesisLines},
         {"regression.kal", "",
          std::string("REGRESS\nMODEL Y = CONSTANT+X+X2\nSAVE 'residuals.kvd' / RESIDUALS\n"
                      "ESTIMATE / CONFI = 0.9 NTEST = SW\n") +

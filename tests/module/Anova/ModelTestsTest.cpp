@@ -3,7 +3,9 @@
 // their record.
 #include "private/Anova/KDGAnovaTabData.h"
 #include "private/Anova/KDGGLMTabData.h"
+#include "private/Anova/KDGHypothesisTabDlg.h"
 #include "private/Anova/KDGLastModel.h"
+#include "private/Anova/KDGMatrixText.h"
 #include "private/Anova/KDGPairwiseTabDlg.h"
 #include "tests/support/ArchiveBytes.h"
 #include "tests/support/DialogTesting.h"
@@ -105,6 +107,61 @@ TEST(PairwiseRecord, StoresChoicesThenListsThenConfidence)
     CPairwiseData back;
     Load(expected, [&](CArchive& ar) { back.Serialize(ar); });
     EXPECT_EQ(Store([&](CArchive& ar) { back.Serialize(ar); }), expected);
+}
+
+TEST(MatrixText, RowsOfNumbersAreCheckedAndWrittenEvenly)
+{
+    EXPECT_EQ(CMatrixText::Format(CMatrixText::Parse(u" 1  -1 0;;0 1 -1 ; ")), CString(u"1 -1 0; 0 1 -1"));
+    EXPECT_EQ(CMatrixText::Check(CMatrixText::Parse(u"1 x")), CMatrixText::Problem::NotANumber);
+    EXPECT_EQ(CMatrixText::Check(CMatrixText::Parse(u"1 2; 3")), CMatrixText::Problem::Ragged);
+    EXPECT_EQ(CMatrixText::Check(CMatrixText::Parse(u"")), CMatrixText::Problem::None);
+    EXPECT_DOUBLE_EQ(CMatrixText::RowSum({u"0.5", u"-1.5", u"1"}), 0.0);
+}
+
+TEST_F(StoredModels, HypothesisLinesForEffectsContrastsCombinationsAndErrors)
+{
+    CHypothesisTabData test;
+    test.SetstrDialog(2013);
+    CHypothesisData& hypothesis = *test.GetHypothesisData();
+    CHypothesisErrorData& error = *test.GetHypothesisErrorData();
+    hypothesis.SetAll(0, u"A*B", 2, Changed(2, 1), {});
+    error.SetAll(u"", 1, u"'x y'*A", u"");
+    EXPECT_EQ(LinesOf(test), (Lines16{u"GLM", u"HYPOTHESIS", u"EFFECT = A*B", u"CONTRAST / POLYNOMIAL ORDER = 2",
+                                      u"ERROR '''x y''*A'", u"TEST"}));
+    hypothesis.SetAll(0, u"A", 3, CGUIData<int>(1), TextArray({u"1 -1 0", u"0  1 -1"}));
+    error.SetAll(u"0;0", 2, u"", u"2 0;0 2");
+    EXPECT_EQ(LinesOf(test), (Lines16{u"GLM", u"HYPOTHESIS", u"EFFECT = A", u"CONTRAST [ 1 -1 0; 0 1 -1 ]",
+                                      u"DMATRIX [ 0; 0 ]", u"ERROR [2 0; 0 2]", u"TEST"}));
+    // A row that could start a line of its own is never written.
+    hypothesis.SetAll(1, u"A", 1, CGUIData<int>(1), TextArray({u"A[1] = A[2]", u"bad\nTEST"}));
+    error.SetAll(u"", 0, u"", u"");
+    test.SetstrDialog(2009);
+    EXPECT_EQ(LinesOf(test), (Lines16{u"ANOVA", u"HYPOTHESIS", u"SPECIFY A[1] = A[2]", u"TEST"}));
+}
+
+TEST_F(StoredModels, HypothesisOkChecksContrastsAndMatrixSizes)
+{
+    StoreGlm();
+    CHypothesisTabData test;
+    test.SetstrDialog(2013);
+    const INT_PTR result = Open<CHypothesisTabDlg>(test, {2105, 0, 0, 0}, [](CHeadlessSession& s) {
+        s.Click(CHypothesisDlgIds::IDC_CONTRAST_CUSTOM);
+        s.Cell(CHypothesisDlgIds::IDC_GRID, 1, 1, u"1 1");
+        s.Ok(); // does not sum to zero
+        s.Cell(CHypothesisDlgIds::IDC_GRID, 1, 1, u"1 -1");
+        s.Page(1);
+        s.Type(CHypothesisErrorDlgIds::IDC_DMATRIX, u"0; 0");
+        s.Ok(); // one contrast, two rows
+        s.Type(CHypothesisErrorDlgIds::IDC_DMATRIX, u"3");
+        s.Click(CHypothesisErrorDlgIds::IDC_ERROR_MATRIX_KIND);
+        s.Type(CHypothesisErrorDlgIds::IDC_ERROR_MATRIX, u"1");
+        s.Ok(); // two dependent variables
+        s.Type(CHypothesisErrorDlgIds::IDC_ERROR_MATRIX, u"1 0; 0 1");
+        s.Ok();
+    });
+    EXPECT_EQ(result, IDOK);
+    EXPECT_EQ(host.messages, (std::vector<UINT>{2108, 2109, 2111}));
+    EXPECT_EQ(LinesOf(test)[3], u"CONTRAST [ 1 -1 ]");
 }
 
 } // namespace
