@@ -3,6 +3,7 @@
 // their record.
 #include "private/Anova/KDGAnovaTabData.h"
 #include "private/Anova/KDGGLMTabData.h"
+#include "private/Anova/KDGHypPairwiseData.h"
 #include "private/Anova/KDGHypothesisTabDlg.h"
 #include "private/Anova/KDGLastModel.h"
 #include "private/Anova/KDGMatrixText.h"
@@ -165,3 +166,15 @@ TEST_F(StoredModels, HypothesisOkChecksContrastsAndMatrixSizes)
 }
 
 } // namespace
+
+TEST_F(StoredModels, PairwiseMatrixHasAContrastRowForEveryPairOfLevels)
+{
+    EXPECT_EQ(CMatrixText::Format(CHypPairwiseData::PairwiseRows(3)), CString(u"1 -1 0; 1 0 -1; 0 1 -1"));
+    EXPECT_EQ(CHypPairwiseData::PairwiseRows(CHypPairwiseData::kMaxLevels).size(), 190u);
+    EXPECT_TRUE(CHypPairwiseData::PairwiseRows(1).empty());
+    CHypPairwiseData matrix;
+    matrix.SetstrDialog(2027);
+    matrix.SetAll(u"dose (mg)", CGUIData<int>(2), u"B(A)");
+    EXPECT_EQ(LinesOf(matrix), (Lines16{u"GLM", u"HYPOTHESIS", u"EFFECT = 'dose (mg)'", u"CONTRAST [ 1 -1 ]",
+                                        u"ERROR 'B(A)'", u"TEST"}));
+}
