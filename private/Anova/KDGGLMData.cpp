@@ -36,7 +36,10 @@ void CGLMData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
     AppendCommandLine(list, model);
 
     // Only the categorical variables the model uses.
-    const auto used = CModelTerms::VariablesOf(m_Terms);
+    std::vector<CString> names;
+    for (const auto& variable : m_CategoryList)
+        names.push_back(variable.GetVariableName());
+    const auto used = CModelTerms::UsedAmong(m_Terms, names);
     CGUIArray<CGUIDataVariable> categorical;
     for (const auto& variable : m_CategoryList)
         if (used.count(variable.GetVariableName()))

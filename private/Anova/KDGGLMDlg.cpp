@@ -78,11 +78,10 @@ void CGLMDlg::DoDataExchange(CDataExchange* pDX)
     }
     m_Work.m_Terms = ShownTerms();
     // Every variable a term names must be one of the data sheet's.
-    std::unordered_set<CString> known;
+    // The source list shows the data sheet's variables and keeps an index of them.
     const CGUIListCtrl& source = ListCtrl(IDC_SOURCE_LIST);
-    for (int i = 0; i < source.GetItemCount(); ++i)
-        known.insert(source.GetItemText(i));
-    const int unknown = CModelTerms::FindUnknownVariable(m_Work.m_Terms, known);
+    const int unknown = CModelTerms::FindUnknownVariable(
+        m_Work.m_Terms, [&source](const CString& name) { return source.FindVariable(name) >= 0; });
     if (unknown >= 0) {
         // The refused term is selected, ready to be removed.
         TermList().SetSelection({unknown});

@@ -118,7 +118,9 @@ UINT CHypothesisDlg::TermProblem(const CString& term)
         known.insert(variable.GetVariableName());
     CGUIArray<CString> terms;
     terms.Add(term);
-    return CModelTerms::FindUnknownVariable(terms, known) >= 0 ? kMsgUnknownVariable : 0;
+    return CModelTerms::FindUnknownVariable(terms, [&known](const CString& name) { return known.count(name) > 0; }) >= 0
+               ? kMsgUnknownVariable
+               : 0;
 }
 
 UINT CHypothesisDlg::Validate() const

@@ -56,8 +56,9 @@ CLastModel CLastModel::For(UINT testCommand)
         const CGLMData& page = *glm->GetGLMData();
         model.m_Dependents = page.GetDependentList();
         model.m_Terms = page.GetTerms();
-        const auto used = CModelTerms::VariablesOf(model.m_Terms);
-        for (const CString& name : NamesOf(page.GetCategoryList()))
+        const std::vector<CString> categorical = NamesOf(page.GetCategoryList());
+        const auto used = CModelTerms::UsedAmong(model.m_Terms, categorical);
+        for (const CString& name : categorical)
             if (used.count(name))
                 model.m_Factors.push_back(name);
     } else if (auto* anova = dynamic_cast<CAnovaTabData*>(stored)) {

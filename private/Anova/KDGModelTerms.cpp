@@ -17,6 +17,18 @@ CString Joined(const std::vector<CString>& names, const CString& separator)
     return text;
 }
 
+// The names `term` uses, into `names`: a plain name is its own, any other
+// term is read as an expression.
+void NamesOf(const CString& term, CStringArray& names)
+{
+    if (CGUIBaseObj::IsPlainIdentifier(term)) {
+        names.RemoveAll();
+        names.Add(term);
+    } else {
+        CGUIBaseObj::GetUniqueArrFromExpn(term, names);
+    }
+}
+
 } // namespace
 
 CString CModelTerms::MainEffect(const CString& name)
@@ -70,30 +82,39 @@ std::vector<CString> CModelTerms::FullFactorial(const std::vector<CString>& name
 
 void CModelTerms::AddUnique(CGUIArray<CString>& terms, const std::vector<CString>& added)
 {
-    std::unordered_set<CString> present(terms.begin(), terms.end());
+    std::unordered_set<CString> present;
+    present.reserve(static_cast<std::size_t>(terms.GetSize()) + added.size());
+    present.insert(terms.begin(), terms.end());
     for (const CString& term : added)
         if (!term.IsEmpty() && present.insert(term).second)
             terms.Add(term);
 }
 
-std::unordered_set<CString> CModelTerms::VariablesOf(const CGUIArray<CString>& terms)
+std::unordered_set<CString> CModelTerms::UsedAmong(const CGUIArray<CString>& terms,
+                                                   const std::vector<CString>& candidates)
 {
-    std::unordered_set<CString> names;
+    const std::unordered_set<CString> wanted(candidates.begin(), candidates.end());
+    std::unordered_set<CString> used;
     CStringArray found;
     for (const CString& term : terms) {
-        CGUIBaseObj::GetUniqueArrFromExpn(term, found);
-        names.insert(found.begin(), found.end());
+        if (used.size() == wanted.size())
+            break;
+        NamesOf(term, found);
+        for (const CString& name : found)
+            if (wanted.count(name))
+                used.insert(name);
     }
-    return names;
+    return used;
 }
 
-int CModelTerms::FindUnknownVariable(const CGUIArray<CString>& terms, const std::unordered_set<CString>& known)
+int CModelTerms::FindUnknownVariable(const CGUIArray<CString>& terms,
+                                     const std::function<bool(const CString&)>& isKnown)
 {
     CStringArray found;
     for (int i = 0; i < terms.GetSize(); ++i) {
-        CGUIBaseObj::GetUniqueArrFromExpn(terms[i], found);
+        NamesOf(terms[i], found);
         for (const CString& name : found)
-            if (!known.count(name))
+            if (!isKnown(name))
                 return i;
     }
     return -1;

@@ -12,6 +12,7 @@
 #include "framework/GUIArray.h"
 #include "platform/CString.h"
 
+#include <functional>
 #include <unordered_set>
 #include <vector>
 
@@ -35,8 +36,10 @@ public:
 
     // Appends the terms of `added` that `terms` lacks, in their order.
     static void AddUnique(CGUIArray<CString>& terms, const std::vector<CString>& added);
-    // The variable names the terms use.
-    static std::unordered_set<CString> VariablesOf(const CGUIArray<CString>& terms);
-    // The first term naming a variable outside `known`, or -1.
-    static int FindUnknownVariable(const CGUIArray<CString>& terms, const std::unordered_set<CString>& known);
+    // Which of `candidates` the terms use: a set of the candidates only, so
+    // that a few factors among many terms stay cheap to find.
+    static std::unordered_set<CString> UsedAmong(const CGUIArray<CString>& terms,
+                                                 const std::vector<CString>& candidates);
+    // The first term naming a variable that `isKnown` denies, or -1.
+    static int FindUnknownVariable(const CGUIArray<CString>& terms, const std::function<bool(const CString&)>& isKnown);
 };

@@ -39,8 +39,11 @@ TEST(ModelTerms, BuildQuotedTermsAndRefuseControlCharacters)
     CGUIArray<CString> terms = TermArray({u"A", u"B"});
     CModelTerms::AddUnique(terms, {u"B", u"A*B", u"", u"A*B"});
     EXPECT_EQ(terms, TermArray({u"A", u"B", u"A*B"}));
-    EXPECT_EQ(CModelTerms::FindUnknownVariable(TermArray({u"A", u"'x y'*B(A)"}), {u"A", u"B"}), 1);
-    EXPECT_EQ(CModelTerms::FindUnknownVariable(TermArray({u"A", u"'x y'*B(A)"}), {u"A", u"B", u"x y"}), -1);
+    const auto knows = [](std::unordered_set<CString> names) {
+        return [names](const CString& name) { return names.count(name) > 0; };
+    };
+    EXPECT_EQ(CModelTerms::FindUnknownVariable(TermArray({u"A", u"'x y'*B(A)"}), knows({u"A", u"B"})), 1);
+    EXPECT_EQ(CModelTerms::FindUnknownVariable(TermArray({u"A", u"'x y'*B(A)"}), knows({u"A", u"B", u"x y"})), -1);
 }
 
 class GlmSettings : public ::testing::Test {
