@@ -165,7 +165,11 @@ void CHypothesisDlg::UpdateDependentWindows()
     const bool rows = !effect || IsDlgButtonChecked(IDC_CONTRAST_CUSTOM);
     for (const UINT id : std::initializer_list<UINT>{IDC_ROWS_LABEL, IDC_GRID, IDC_INSERT_ROW, IDC_DELETE_ROW})
         EnableCtrl(id, rows);
-    GetGrid().SetItemText(0, 1, effect ? CString(u"Coefficients") : CString(u"Linear combination"));
+    // The column says what a row holds; set only on a change, since a view
+    // redraws the whole grid for it.
+    const CString header = effect ? CString(u"Coefficients") : CString(u"Linear combination");
+    if (GetGrid().GetItemText(0, 1) != header)
+        GetGrid().SetItemText(0, 1, header);
 }
 
 // --- Error page ---------------------------------------------------------------
