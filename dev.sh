@@ -107,7 +107,9 @@ TEXT
         title=$(sed -n "s/^## \(.*($id).*\)$/\1/p" docs/commands.md | head -n 1)
         if [ -z "$title" ]; then
             printf '\n## %s (%s)\n' "$class" "$id" >>"$md"
-        elif ! grep -qF "## [$title]" "$md"; then
+        elif [ "$(grep '^## ' "$md" | tail -n 1)" != "## [$title](commands.md#$(anchor "$title"))" ]; then
+            # A section shared by commands of two menus comes again where
+            # the second one is listed.
             printf '\n## [%s](commands.md#%s)\n' "$title" "$(anchor "$title")" >>"$md"
         fi
         # Dialogs that share a section: each under its menu entry's name.
@@ -116,7 +118,9 @@ TEXT
         fi
         for page in $(seq 0 20); do
             printf 'page %d\ncancel\n' "$page" | "$k" open "$id" --actions - >/dev/null 2>"$work/err" || true
-            if grep -q "no page\|has no pages" "$work/err"; then
+            if grep -q "has no pages" "$work/err" && [ "$page" -gt 0 ]; then
+                break
+            elif grep -q "no page" "$work/err" && ! grep -q "has no pages" "$work/err"; then
                 break
             elif grep -q "not available" "$work/err"; then
                 continue
@@ -135,7 +139,11 @@ TEXT
             if [ "$drawn" -eq 0 ]; then
                 name="$(echo "$class" | sed 's/^C//; s/TabDlg$//; s/Dlg$//' | tr '[:upper:]' '[:lower:]')-page-$((page + 1))"
                 echo "note: no script in docs/gallery draws page $page of command $id; drawn as it opens" >&2
-                printf 'page %d\n' "$page" | render "$name" "$id" ""
+                if grep -q "has no pages" "$work/err"; then
+                    render "$name" "$id" "" </dev/null
+                else
+                    printf 'page %d\n' "$page" | render "$name" "$id" ""
+                fi
                 printf '\n![Page %d](images/%s.png)\n' "$((page + 1))" "$name" >>"$md"
             fi
         done

@@ -105,6 +105,8 @@ bool HostGlobal::IsCommandAllowed(UINT)
 
 void HostGlobal::ReportMessage(UINT messageId, int)
 {
+    if (m_messagesMuted)
+        return;
     const CString text = m_resources.GetMessageText(messageId);
     m_err << "message " << messageId << ": " << text.ToUtf8() << std::endl;
     if (m_presenter)

@@ -212,8 +212,11 @@ private:
         if (!std::filesystem::exists(file, error) && !std::filesystem::is_symlink(file, error))
             return;
         try {
-            // An entry is of use when its dialog can write its lines.
+            // An entry is of use when its dialog can take it; whether its OK
+            // would pass (a test needs its model, loaded later) is for
+            // when it opens, so the check shows no messages.
             const auto rejected = m_host.Store().Load(file, [this](UINT id, CGUIBaseObj& settings) {
+                const HostGlobal::MutedMessages muted(m_host);
                 CLIST<CCmdInfo> lines;
                 m_module->ConfirmedLines(id, &settings, lines);
             });

@@ -39,6 +39,12 @@ const char* const kStepwiseLines = "REGRESS\n"
                                    "START / FORWARD FENTER = 5\n"
                                    "STEP / AUTO\n"
                                    "STOP / CONFI = 0.9\n";
+const char* const kGlmLines = "GLM\n"
+                              "MODEL Y = CONSTANT+A+B+A*B+X+X*X\n"
+                              "CATEGORY A B / REPLACE\n"
+                              "ESTIMATE / SS = TYPE3\n";
+const char* const kPairwiseLines = "GLM\nHYPOTHESIS\nPOST A / BONF CONFI = 0.9\nERROR 'A*B'\nTEST\n";
+const char* const kHypothesisLines = "GLM\nHYPOTHESIS\nEFFECT = A\nCONTRAST [ 1 -1 0; 0 1 -1 ]\nERROR 'A*B'\nTEST\n";
 const char* const kChoiceLines = "LOGIT\n"
                                  "SET avail1 avail2 avail3 / INDICATORS\n"
                                  "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
@@ -63,6 +69,20 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "click 1423\nexpect items 1438 Y Y2 X X2\npage 1\nexpect checked 1402 1\nexpect checked 1412 1\n"
          "expect text 1399 8\nok\n",
          0, "", "CORR\nPEARSON Y Y2 X X2 / EM T = 8 SAMPLE = BOOT(500)\n"},
+        {"glm.kal", "", kGlmLines, "2010", kGlmLines,
+         // The terms come back; without the quadratic term the model is smaller.
+         "expect items 2138 A B A*B X X*X\nexpect items 2126 A B\nselect 2138 X*X\nclick 2139\nok\n", 0, "",
+         "GLM\nMODEL Y = CONSTANT+A+B+A*B+X\nCATEGORY A B / REPLACE\nESTIMATE / SS = TYPE3\n"},
+        {"glm-pairwise.kal", "",
+         "GLM\nMODEL Y = CONSTANT+A+B+A*B\nCATEGORY A B / REPLACE\nESTIMATE / SS = TYPE3\n" +
+             std::string(kPairwiseLines),
+         "2012", kPairwiseLines, "expect combo 2166 3\nexpect checked 2161 1\nexpect text 2168 0.9\nok\n", 0, "",
+         kPairwiseLines},
+        {"glm-hypothesis.kal", "",
+         "GLM\nMODEL Y = CONSTANT+A+B+A*B\nCATEGORY A B / REPLACE\nESTIMATE / SS = TYPE3\n" +
+             std::string(kHypothesisLines),
+         "2013", kHypothesisLines, "expect checked 2189 1\npage 1\nexpect checked 2205 1\nok\n", 0, "",
+         kHypothesisLines},
         {"regression.kal", "",
          std::string("REGRESS\nMODEL Y = CONSTANT+X+X2\nSAVE 'residuals.kvd' / RESIDUALS\n"
                      "ESTIMATE / CONFI = 0.9 NTEST = SW\n") +
