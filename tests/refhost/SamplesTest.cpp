@@ -86,6 +86,12 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "", "", "", 1, "", ""},
         {"xmr.kal", "fill-weights.csv", "QC\nXMR   weight /  WIDTH = 3  CENTER = 500 SLIMITS=3,3 MEAN \n", "", "", "",
          1, "", ""},
+        {"time-weighted.kal", "fill-weights.csv",
+         "QC\nEWMA weight*lot / LAMBDA=0.1 TARGET=500 SLIMITS=2.7,2.7\n"
+         "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\nQC\nMA weight*lot / SPAN=4  TEST = 1 2 \n",
+         "2035", "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\n",
+         // The CUSUM page shows its own controls, not the limits.
+         "expect checked 5478 1\nexpect text 5488 4\nexpect visible 5470 0\ncancel\n", 1, "", ""},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
