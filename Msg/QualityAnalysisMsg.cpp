@@ -1,6 +1,7 @@
 #include "Msg/QualityAnalysisMsg.h"
 
 #include "Msg/LaunchDialog.h"
+#include "private/Quality/KDGArlDlg.h"
 #include "private/Quality/KDGCusumDlg.h"
 #include "private/Quality/KDGEWMATabDlg.h"
 #include "private/Quality/KDGMaTabDlg.h"
@@ -11,11 +12,11 @@ namespace {
 
 const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2033, CBoxWhiskerDlg, CBoxWhiskerData),
-    KAL_MENU_ROW_UNAVAILABLE(2034, CArlDlg, CArlData),
+    KAL_MENU_ROW(2034, CArlDlg, CArlData),
     KAL_MENU_ROW(2035, CCusumDlg, CCusumData),
     KAL_MENU_ROW(2036, CEWMATabDlg, CEWMATabData, 2069, 2151),
     KAL_MENU_ROW(2037, CMaTabDlg, CMaTabData, 2153, 2152),
-    KAL_MENU_ROW_UNAVAILABLE(2038, CArlDlg, CArlData),
+    KAL_MENU_ROW(2038, CArlDlg, CArlData),
     KAL_MENU_ROW_UNAVAILABLE(2039, CRegressDlg, CRegressData),
     KAL_MENU_ROW_UNAVAILABLE(2040, CRunChartDlg, CRunChartData),
     KAL_MENU_ROW(2041, CShewhartTabDlg, CShewhartTabData, 2279),

@@ -86,6 +86,10 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "", "", "", 1, "", ""},
         {"xmr.kal", "fill-weights.csv", "QC\nXMR   weight /  WIDTH = 3  CENTER = 500 SLIMITS=3,3 MEAN \n", "", "", "",
          1, "", ""},
+        {"run-lengths.kal", "",
+         "QC\nARL XBAR / N=4 MAXSHIFT=3 STEP=0.5 L=3\nQC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
+         "2038", "QC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
+         "expect combo 5512 1\nexpect text 5519 \"&Weight (lambda):\"\nexpect text 5513 5\ncancel\n", 1, "", ""},
         {"time-weighted.kal", "fill-weights.csv",
          "QC\nEWMA weight*lot / LAMBDA=0.1 TARGET=500 SLIMITS=2.7,2.7\n"
          "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\nQC\nMA weight*lot / SPAN=4  TEST = 1 2 \n",
