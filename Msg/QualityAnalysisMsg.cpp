@@ -5,6 +5,7 @@
 #include "private/Quality/KDGCusumDlg.h"
 #include "private/Quality/KDGEWMATabDlg.h"
 #include "private/Quality/KDGMaTabDlg.h"
+#include "private/Quality/KDGPcaDlg.h"
 #include "private/Quality/KDGShewhartTabDlg.h"
 #include "private/Quality/KDGXMrTabDlg.h"
 
@@ -24,7 +25,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW(2043, CXMrTabDlg, CXMrTabData, 2338),
     KAL_MENU_ROW_UNAVAILABLE(2045, CQaHistogramDlg, CQaHistogramData),
     KAL_MENU_ROW_UNAVAILABLE(2046, CParetoDlg, CParetoData),
-    KAL_MENU_ROW_UNAVAILABLE(2047, CPcaDlg, CPcaData),
+    KAL_MENU_ROW(2047, CPcaDlg, CPcaData),
 };
 
 } // namespace
