@@ -1,7 +1,7 @@
 #include "private/Quality/KDGArlData.h"
 
 #include "framework/ResourceUtil.h"
-#include "framework/StringUtil.h"
+#include "private/Quality/KDGChartLine.h"
 
 IMPLEMENT_SERIAL(CArlData, CGUIBaseObj, 1)
 
@@ -48,8 +48,7 @@ void CArlData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
     case kMovingAverage: line += AddEditValueCmd(m_ParameterEdit, u" SPAN=", 1); break;
     default: break;
     }
-    AppendCommandLine(list, line);
-    CStringUtil::RemoveRedundantSlash(list, CStringUtil::SearchStringAtBeginning(list, u"ARL "));
+    kal::quality::PushChartLine(list, line, u"ARL ");
 }
 
 void CArlData::Serialize(CArchive& ar)

@@ -20,4 +20,20 @@ inline bool IsGiven(const CGUIData<double>& bound)
     return bound.m_nState == 0;
 }
 
+// Specification limits given on both sides must be in order (0 when they
+// are), and a target given must lie within the limits given.
+inline UINT SpecLimitsOrder(const CGUIData<double>& lower, const CGUIData<double>& upper, UINT message)
+{
+    return IsGiven(lower) && IsGiven(upper) && lower.m_Value >= upper.m_Value ? message : 0;
+}
+inline UINT TargetWithin(const CGUIData<double>& lower, const CGUIData<double>& upper, const CGUIData<double>& target,
+                         UINT message)
+{
+    if (!IsGiven(target))
+        return 0;
+    const bool aboveLower = !IsGiven(lower) || target.m_Value >= lower.m_Value;
+    const bool belowUpper = !IsGiven(upper) || target.m_Value <= upper.m_Value;
+    return aboveLower && belowUpper ? 0 : message;
+}
+
 } // namespace kal::quality

@@ -2,7 +2,7 @@
 
 #include "framework/BaseGui.h"
 #include "framework/ResourceUtil.h"
-#include "framework/StringUtil.h"
+#include "private/Quality/KDGChartLine.h"
 
 IMPLEMENT_SERIAL(CPcaData, CGUIBaseObj, 1)
 
@@ -10,13 +10,7 @@ void CPcaData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
 {
     AddModuleCmd(kModuleQc, list);
 
-    CString line(u"CAPABILITY ");
-    AddVariables(line, m_MeasureVariables, u" ");
-    if (!m_GroupVariables.IsEmpty()) {
-        line += u"*";
-        AddVariables(line, m_GroupVariables, u" ");
-    }
-    line += u" /";
+    CString line = kal::quality::ChartLineHead(*this, u"CAPABILITY ", m_MeasureVariables, m_GroupVariables);
     line += AddEditValueCmd(m_LowerEdit, u" LSL=", IsToBeWritten(m_LowerEdit));
     line += AddEditValueCmd(m_UpperEdit, u" USL=", IsToBeWritten(m_UpperEdit));
     line += AddEditValueCmd(m_TargetEdit, u" TARGET=", IsToBeWritten(m_TargetEdit));
@@ -24,8 +18,7 @@ void CPcaData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
     line += AddOnConditionCmd(u" CP", m_PotentialCheck);
     line += AddOnConditionCmd(u" PP", m_PerformanceCheck);
     line += AddOnConditionCmd(u" NORMTEST", m_NormalityCheck);
-    AppendCommandLine(list, line);
-    CStringUtil::RemoveRedundantSlash(list, CStringUtil::SearchStringAtBeginning(list, u"CAPABILITY "));
+    kal::quality::PushChartLine(list, line, u"CAPABILITY ");
 }
 
 void CPcaData::FillListSource()

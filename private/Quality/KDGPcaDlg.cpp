@@ -42,20 +42,11 @@ void CPcaDlg::DoDataExchange(CDataExchange* pDX)
     const bool lower = IsGiven(m_Work.m_LowerEdit);
     const bool upper = IsGiven(m_Work.m_UpperEdit);
     DDX_ControlWarn(pDX, IDC_LSL_EDIT, lower || upper ? 0 : kMsgNoLimit);
-    const bool ordered = !(lower && upper) || m_Work.m_LowerEdit.m_Value < m_Work.m_UpperEdit.m_Value;
-    DDX_ControlWarn(pDX, IDC_USL_EDIT, ordered ? 0 : kMsgLimitsOrder);
-    DDX_ControlWarn(pDX, IDC_TARGET_EDIT, ValidateTarget());
-}
-
-UINT CPcaDlg::ValidateTarget() const
-{
-    using kal::quality::IsGiven;
-    if (!IsGiven(m_Work.m_TargetEdit))
-        return 0;
-    const double target = m_Work.m_TargetEdit.m_Value;
-    const bool aboveLower = !IsGiven(m_Work.m_LowerEdit) || target >= m_Work.m_LowerEdit.m_Value;
-    const bool belowUpper = !IsGiven(m_Work.m_UpperEdit) || target <= m_Work.m_UpperEdit.m_Value;
-    return aboveLower && belowUpper ? 0 : kMsgOutOfRange;
+    DDX_ControlWarn(pDX, IDC_USL_EDIT,
+                    kal::quality::SpecLimitsOrder(m_Work.m_LowerEdit, m_Work.m_UpperEdit, kMsgLimitsOrder));
+    DDX_ControlWarn(
+        pDX, IDC_TARGET_EDIT,
+        kal::quality::TargetWithin(m_Work.m_LowerEdit, m_Work.m_UpperEdit, m_Work.m_TargetEdit, kMsgOutOfRange));
 }
 
 void CPcaDlg::OnReset()

@@ -29,7 +29,4 @@ public:
 
 protected:
     DECLARE_MESSAGE_MAP()
-
-private:
-    UINT ValidateTarget() const;
 };

@@ -2,7 +2,7 @@
 
 #include "framework/BaseGui.h"
 #include "framework/ResourceUtil.h"
-#include "framework/StringUtil.h"
+#include "private/Quality/KDGChartLine.h"
 #include "private/Quality/KDGControlLimits.h"
 
 IMPLEMENT_SERIAL(CTimeWeightedData, CGUIBaseObj, 1)
@@ -54,16 +54,9 @@ void CTimeWeightedData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
 {
     AddModuleCmd(kModuleQc, list);
 
-    CString line = ChartKeyword();
-    AddVariables(line, m_ChartVariables, u" ");
-    if (!m_GroupVariables.IsEmpty()) {
-        line += u"*";
-        AddVariables(line, m_GroupVariables, u" ");
-    }
-    line += u" /";
-    line += ChartClauses();
-    AppendCommandLine(list, line);
-    CStringUtil::RemoveRedundantSlash(list, CStringUtil::SearchStringAtBeginning(list, ChartKeyword()));
+    const CString keyword = ChartKeyword();
+    const CString line = kal::quality::ChartLineHead(*this, keyword, m_ChartVariables, m_GroupVariables);
+    kal::quality::PushChartLine(list, line + ChartClauses(), keyword);
 }
 
 void CTimeWeightedData::FillListSource()

@@ -57,6 +57,12 @@ std::string ChooseRequiredVariables(const std::string& id)
 {
     if (id == "2035" || id == "2036" || id == "2037")
         return "page 0\nselect 5461 Y\nclick 5463\n";
+    if (id == "2033")
+        return "select 5571 Y\nclick 5573\n";
+    if (id == "2040")
+        return "select 5651 Y\nclick 5653\n";
+    if (id == "2045")
+        return "select 5591 Y\nclick 5593\n";
     if (id == "2047")
         return "select 5541 Y\nclick 5543\ntype 5558 10\n";
     return {};

@@ -86,6 +86,11 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "", "", "", 1, "", ""},
         {"xmr.kal", "fill-weights.csv", "QC\nXMR   weight /  WIDTH = 3  CENTER = 500 SLIMITS=3,3 MEAN \n", "", "", "",
          1, "", ""},
+        {"quality-graphs.kal", "fill-weights.csv",
+         "QC\nBOX weight*lot / NOTCH OUTLIERS CENTER\nQC\nRUNCHART weight*lot / RUNS\n"
+         "QC\nHISTOGRAM weight / BINS=12 LSL=495 USL=505 TARGET=500 NORMAL\n",
+         "2045", "QC\nHISTOGRAM weight / BINS=12 LSL=495 USL=505 TARGET=500 NORMAL\n",
+         "expect text 5595 12\nexpect items 5592 weight\ncancel\n", 1, "", ""},
         {"capability.kal", "fill-weights.csv",
          "QC\nCAPABILITY weight*lot / LSL=495 USL=505 TARGET=500 CP PP NORMTEST\n", "2047",
          "QC\nCAPABILITY weight*lot / LSL=495 USL=505 TARGET=500 CP PP NORMTEST\n",
