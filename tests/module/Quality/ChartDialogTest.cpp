@@ -59,40 +59,49 @@ TEST_F(ChartDialog, ShewhartBuildsItsChartAndWritesItsLines)
     EXPECT_EQ(result, IDOK);
     EXPECT_EQ(
         Commands(shewhart),
-        (Lines16{u"QC", u"SHEWHART T1 T2*Lot Shift$ / TYPE=RANGE SLIMITS=2.5, AVGN TOTAL  TEST = 1 3 4 5 6 7 8 "}));
+        (Lines16{u"QC", u"SHEWHART T1 T2*Lot Shift$ / TYPE=RANGE SLIMITS=2.5,0 AVGN TOTAL  TEST = 1 3 4 5 6 7 8 "}));
 }
 
-TEST_F(ChartDialog, ListsTakeTheirKindsOfVariablesAndAMedianChartNoFrequency)
+TEST_F(ChartDialog, ListsTakeTheirKindsOfVariablesAndAMedianChartLocksItsFrequency)
 {
     RunShewhart([this](CHeadlessSession& s) {
         s.Select(S::IDC_SOURCE_LIST, Names({u"Shift$"}));
         EXPECT_FALSE(s.IsEnabled(S::IDC_ADD_CHART) || s.IsEnabled(S::IDC_ADD_FREQUENCY));
         EXPECT_TRUE(s.IsEnabled(S::IDC_ADD_GROUP));
-        Move(s, S::IDC_SOURCE_LIST, {u"W", u"Y"}, S::IDC_ADD_FREQUENCY);
-        EXPECT_EQ(s.Items(S::IDC_FREQUENCY_LIST), Names({u"Y"})); // one variable, in list order
 
-        // Choosing the median chart empties the frequency list, and no way
-        // fills it again.
+        // A median chart takes no frequency variable by any way...
         s.Choose(S::IDC_CHART_TYPE_COMBO, MEDIAN);
-        EXPECT_TRUE(s.Items(S::IDC_FREQUENCY_LIST).empty());
         s.Select(S::IDC_SOURCE_LIST, Names({u"W"}));
-        EXPECT_FALSE(s.IsEnabled(S::IDC_ADD_FREQUENCY) || s.IsEnabled(S::IDC_REMOVE_FREQUENCY));
+        EXPECT_FALSE(s.IsEnabled(S::IDC_ADD_FREQUENCY));
         s.Drag(S::IDC_SOURCE_LIST, S::IDC_FREQUENCY_LIST);
         EXPECT_EQ(s.LastDragCursor(), CursorShape::Arrow);
         s.Select(S::IDC_SOURCE_LIST, Names({u"W"}));
         s.Menu(S::IDC_SOURCE_LIST, S::ID_MENU_FREQUENCY);
         EXPECT_FALSE(driver.LastMenu().IsEnabled(S::ID_MENU_FREQUENCY));
-        EXPECT_EQ(driver.LastMenu().Items()[2].caption, CString(u"Frequency/weight"));
         EXPECT_TRUE(s.Items(S::IDC_FREQUENCY_LIST).empty());
 
-        // Other charts take it again, by drag as well.
+        // ...while other charts take one, by drag as well.
         s.Choose(S::IDC_CHART_TYPE_COMBO, C);
+        Move(s, S::IDC_SOURCE_LIST, {u"W", u"Y"}, S::IDC_ADD_FREQUENCY);
+        EXPECT_EQ(s.Items(S::IDC_FREQUENCY_LIST), Names({u"Y"})); // one variable, in list order
+        s.Select(S::IDC_FREQUENCY_LIST, Names({u"Y"}));
+        s.Drag(S::IDC_FREQUENCY_LIST, S::IDC_SOURCE_LIST);
+        EXPECT_EQ(s.LastDragCursor(), CursorShape::Remove);
         s.Select(S::IDC_SOURCE_LIST, Names({u"W"}));
         s.Drag(S::IDC_SOURCE_LIST, S::IDC_FREQUENCY_LIST);
         EXPECT_EQ(s.LastDragCursor(), CursorShape::Drop);
+
+        // Choosing the median chart then keeps it, and no way removes it.
+        s.Choose(S::IDC_CHART_TYPE_COMBO, MEDIAN);
+        s.Select(S::IDC_FREQUENCY_LIST, Names({u"W"}));
+        EXPECT_FALSE(s.IsEnabled(S::IDC_REMOVE_FREQUENCY));
+        s.Drag(S::IDC_FREQUENCY_LIST, S::IDC_SOURCE_LIST);
+        EXPECT_EQ(s.LastDragCursor(), CursorShape::NoDrop);
+        s.DoubleClick(S::IDC_FREQUENCY_LIST);
+        EXPECT_EQ(s.Items(S::IDC_FREQUENCY_LIST), Names({u"W"}));
         s.Ok();
     });
-    EXPECT_EQ(Commands(shewhart), (Lines16{u"QC", u"FREQUENCY  W", u"SHEWHART * / TYPE=C"}));
+    EXPECT_EQ(Commands(shewhart), (Lines16{u"QC", u"FREQUENCY  W", u"SHEWHART * / TYPE=MEDIAN PLIMITS=0,0"}));
 }
 
 TEST_F(ChartDialog, KnownCenterAndSigmaFollowTheirChecksAndExcludeEachOtherForVariableCharts)
@@ -126,7 +135,7 @@ TEST_F(ChartDialog, KnownCenterAndSigmaFollowTheirChecksAndExcludeEachOtherForVa
         EXPECT_EQ(s.IsChecked(S::IDC_SIGMA_CHECK), 1);
         s.Ok();
     });
-    EXPECT_EQ(Commands(shewhart).back(), u"SHEWHART Y* / TYPE=P CENTER=0.1 SIGMA=0.05");
+    EXPECT_EQ(Commands(shewhart).back(), u"SHEWHART Y* / TYPE=P CENTER=0.1 SIGMA=0.05 PLIMITS=0,0");
 }
 
 TEST_F(ChartDialog, AggAndTotalAreOfferedWhereTheyApplyAndCountOnlyThen)
@@ -144,7 +153,7 @@ TEST_F(ChartDialog, AggAndTotalAreOfferedWhereTheyApplyAndCountOnlyThen)
         s.Check(S::IDC_TOTAL_CHECK, 1);
         s.Ok();
     });
-    EXPECT_EQ(Commands(shewhart), (Lines16{u"QC", u"WEIGHT  W", u"SHEWHART Y T1* / TYPE=NP AGG TOTAL"}));
+    EXPECT_EQ(Commands(shewhart), (Lines16{u"QC", u"WEIGHT  W", u"SHEWHART Y T1* / TYPE=NP PLIMITS=0,0 AGG TOTAL"}));
 
     // Checked but no longer offered: the checks stay, the options go.
     RunShewhart([](CHeadlessSession& s) {
@@ -156,7 +165,7 @@ TEST_F(ChartDialog, AggAndTotalAreOfferedWhereTheyApplyAndCountOnlyThen)
         EXPECT_FALSE(s.IsEnabled(S::IDC_AGG_CHECK) || s.IsEnabled(S::IDC_TOTAL_CHECK));
         s.Ok();
     });
-    EXPECT_EQ(Commands(shewhart), (Lines16{u"QC", u"SHEWHART Y* / TYPE=NP"}));
+    EXPECT_EQ(Commands(shewhart), (Lines16{u"QC", u"SHEWHART Y* / TYPE=NP PLIMITS=0,0"}));
 }
 
 TEST_F(ChartDialog, ShewhartRefusesEntriesWithTheirMessages)
@@ -179,20 +188,25 @@ TEST_F(ChartDialog, ShewhartRefusesEntriesWithTheirMessages)
         ExpectRefused(s, 2010, S::IDC_CENTER_EDIT);
         s.Type(S::IDC_CENTER_EDIT, u"-4.5");
 
-        // Probabilities lie from 0 to 1.
+        // Probabilities lie from 0 to 1; a bound shows its number, 0 too.
+        EXPECT_EQ(s.Text(S::IDC_PLIMITS_LOWER), CString(u"0"));
         s.Type(S::IDC_PLIMITS_UPPER, u"1.5");
         ExpectRefused(s, 2012, S::IDC_PLIMITS_UPPER);
         s.Type(S::IDC_PLIMITS_UPPER, u"");
 
-        // Preset and sigma limits need a bound; preset bounds must enclose.
+        // Preset and sigma limits need a bound, 0 being one; preset bounds
+        // must enclose something.
         s.Click(S::IDC_LIMITS_RADIO);
-        ExpectRefused(s, S::kMsgLimitsEmpty, S::IDC_LIMITS_LOWER);
-        s.Type(S::IDC_LIMITS_LOWER, u"0");
+        ExpectRefused(s, 2012, S::IDC_LIMITS_UPPER); // 0 to 0
+        s.Type(S::IDC_LIMITS_LOWER, u"");
+        s.Type(S::IDC_LIMITS_UPPER, u" ");
         ExpectRefused(s, S::kMsgLimitsEmpty, S::IDC_LIMITS_LOWER);
         s.Type(S::IDC_LIMITS_LOWER, u"5");
         s.Type(S::IDC_LIMITS_UPPER, u"5");
         ExpectRefused(s, 2012, S::IDC_LIMITS_UPPER);
         s.Click(S::IDC_SLIMITS_RADIO);
+        s.Type(S::IDC_SLIMITS_LOWER, u"");
+        s.Type(S::IDC_SLIMITS_UPPER, u"");
         ExpectRefused(s, S::kMsgLimitsEmpty, S::IDC_SLIMITS_LOWER);
         s.Type(S::IDC_SLIMITS_UPPER, u"11");
         ExpectRefused(s, 2012, S::IDC_SLIMITS_UPPER);
@@ -202,11 +216,13 @@ TEST_F(ChartDialog, ShewhartRefusesEntriesWithTheirMessages)
         s.Ok();
         EXPECT_FALSE(s.IsOpen());
     });
-    // The preset bounds, out of use now, are kept as entered.
+    // The preset bounds, out of use now, are kept as entered, and emptied
+    // bounds stay empty.
     EXPECT_EQ(Commands(shewhart).back(), u"SHEWHART * / TYPE=XBAR CENTER=-4.5 SLIMITS=,3");
     RunShewhart([](CHeadlessSession& s) {
         EXPECT_EQ(s.Text(S::IDC_LIMITS_UPPER), CString(u"5"));
         EXPECT_EQ(s.Text(S::IDC_SLIMITS_LOWER), CString());
+        EXPECT_EQ(s.Text(S::IDC_PLIMITS_UPPER), CString());
         s.Cancel();
     });
 }
@@ -238,7 +254,7 @@ TEST_F(ChartDialog, PerformAllChecksAndClearsTheTestsAndFollowsThem)
             EXPECT_EQ(s.IsChecked(test), 0) << test;
         s.Ok();
     });
-    EXPECT_EQ(Commands(shewhart).back(), u"SHEWHART * / TYPE=XBAR  TEST = 0 ");
+    EXPECT_EQ(Commands(shewhart).back(), u"SHEWHART * / TYPE=XBAR PLIMITS=0,0  TEST = 0 ");
 
     RunShewhart([](CHeadlessSession& s) {
         s.Page(1);
@@ -246,7 +262,7 @@ TEST_F(ChartDialog, PerformAllChecksAndClearsTheTestsAndFollowsThem)
         s.Check(T::IDC_TEST3, 1);
         s.Ok();
     });
-    EXPECT_EQ(Commands(shewhart).back(), u"SHEWHART * / TYPE=XBAR  TEST = 3 8 ");
+    EXPECT_EQ(Commands(shewhart).back(), u"SHEWHART * / TYPE=XBAR PLIMITS=0,0  TEST = 3 8 ");
 
     // Settings whose perform-all disagrees with the tests show it as the
     // tests say.
@@ -259,7 +275,7 @@ TEST_F(ChartDialog, PerformAllChecksAndClearsTheTestsAndFollowsThem)
         EXPECT_EQ(s.IsChecked(T::IDC_TEST7), 1);
         s.Ok();
     });
-    EXPECT_EQ(Commands(shewhart).back(), u"SHEWHART * / TYPE=XBAR");
+    EXPECT_EQ(Commands(shewhart).back(), u"SHEWHART * / TYPE=XBAR PLIMITS=0,0");
 }
 
 TEST_F(ChartDialog, ResetRestoresTheChartPageAndKeepsTheSource)
@@ -272,11 +288,11 @@ TEST_F(ChartDialog, ResetRestoresTheChartPageAndKeepsTheSource)
         s.Reset();
         EXPECT_TRUE(s.Items(S::IDC_CHART_LIST).empty());
         EXPECT_EQ(s.Items(S::IDC_SOURCE_LIST).size(), 6u);
-        EXPECT_EQ(s.Text(S::IDC_LIMITS_UPPER), CString());
+        EXPECT_EQ(s.Text(S::IDC_LIMITS_UPPER), CString(u"0"));
         EXPECT_FALSE(s.IsEnabled(S::IDC_LIMITS_UPPER));
         s.Ok();
     });
-    EXPECT_EQ(Commands(shewhart).back(), u"SHEWHART * / TYPE=XBAR");
+    EXPECT_EQ(Commands(shewhart).back(), u"SHEWHART * / TYPE=XBAR PLIMITS=0,0");
 }
 
 TEST_F(ChartDialog, XMrWritesWhatItsPageShows)
@@ -322,7 +338,7 @@ TEST_F(ChartDialog, XMrMovingRangeAndSigmaExcludeEachOther)
         EXPECT_FALSE(s.IsEnabled(X::IDC_MR_EDIT) || s.IsEnabled(X::IDC_MR_LABEL));
         s.Ok();
     });
-    EXPECT_EQ(Commands(xmr).back(), u"XMR    /   SIGMA = 0.2 MEAN ");
+    EXPECT_EQ(Commands(xmr).back(), u"XMR    /   SIGMA = 0.2 PLIMITS=0,0 MEAN ");
 
     // Settings that bring both keep the moving range.
     CGUIArray<CGUIDataVariable> source, chart;
@@ -337,7 +353,7 @@ TEST_F(ChartDialog, XMrMovingRangeAndSigmaExcludeEachOther)
         EXPECT_FALSE(s.IsEnabled(X::IDC_SIGMA_EDIT));
         s.Ok();
     });
-    EXPECT_EQ(Commands(xmr).back(), u"XMR    /     MR = 1.5 MEAN ");
+    EXPECT_EQ(Commands(xmr).back(), u"XMR    /     MR = 1.5 PLIMITS=0,0 MEAN ");
 }
 
 TEST_F(ChartDialog, XMrRefusesEntriesWithTheirMessages)
@@ -361,6 +377,8 @@ TEST_F(ChartDialog, XMrRefusesEntriesWithTheirMessages)
         s.Type(X::IDC_PLIMITS_LOWER, u"0.005");
         s.Click(X::IDC_SLIMITS_RADIO);
         EXPECT_FALSE(s.IsEnabled(X::IDC_PLIMITS_LOWER));
+        s.Type(X::IDC_SLIMITS_LOWER, u"");
+        s.Type(X::IDC_SLIMITS_UPPER, u"");
         ExpectRefused(s, X::kMsgLimitsEmpty, X::IDC_SLIMITS_LOWER);
         s.Type(X::IDC_SLIMITS_LOWER, u"3");
         s.Ok();

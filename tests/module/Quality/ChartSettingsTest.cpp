@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 using namespace kaltest;
 
 namespace {
@@ -16,6 +18,9 @@ CGUIData<double> Given(double value, int flag1 = 2)
 {
     return CGUIData<double>(0, value, 0.0, flag1, 1);
 }
+
+// A bound whose edit the user emptied.
+const CGUIData<double> kEmpty = Given(std::numeric_limits<double>::quiet_NaN());
 
 // The Shewhart page's fields by name, handed over with SetAll.
 struct Shewhart {
@@ -76,17 +81,17 @@ protected:
 
 TEST_F(ChartSettings, ShewhartDefaultsWriteTheModuleAndTheChartLine)
 {
-    EXPECT_EQ(Commands(shewhart), (Lines16{u"QC", u"SHEWHART * / TYPE=XBAR"}));
+    EXPECT_EQ(Commands(shewhart), (Lines16{u"QC", u"SHEWHART * / TYPE=XBAR PLIMITS=0,0"}));
     Shewhart s;
     s.chart = Vars({u"T1", u"T2"});
     s.group = Vars({u"A", u"dose level"});
     s.type = 8;
     SetShewhart(s);
-    EXPECT_EQ(Commands(shewhart), (Lines16{u"QC", u"SHEWHART T1 T2*A 'dose level' / TYPE=MEDIAN"}));
+    EXPECT_EQ(Commands(shewhart), (Lines16{u"QC", u"SHEWHART T1 T2*A 'dose level' / TYPE=MEDIAN PLIMITS=0,0"}));
 
     // Asking for every option forces none of the chart's values.
     host.writeEveryOption = true;
-    EXPECT_EQ(ShewhartLine(), u"SHEWHART T1 T2*A 'dose level' / TYPE=MEDIAN");
+    EXPECT_EQ(ShewhartLine(), u"SHEWHART T1 T2*A 'dose level' / TYPE=MEDIAN PLIMITS=0,0");
 }
 
 TEST_F(ChartSettings, FrequencyLineIsAWeightOnlyForAggregatedProportions)
@@ -110,15 +115,15 @@ TEST_F(ChartSettings, CenterAndSigmaAreWrittenOnlyWhileInUse)
     s.center = Given(10.25);
     s.sigma = Given(1.5);
     SetShewhart(s);
-    EXPECT_EQ(ShewhartLine(), u"SHEWHART * / TYPE=XBAR");
+    EXPECT_EQ(ShewhartLine(), u"SHEWHART * / TYPE=XBAR PLIMITS=0,0");
     s.sigmaInUse = 1;
     SetShewhart(s);
-    EXPECT_EQ(ShewhartLine(), u"SHEWHART * / TYPE=XBAR SIGMA=1.5");
+    EXPECT_EQ(ShewhartLine(), u"SHEWHART * / TYPE=XBAR SIGMA=1.5 PLIMITS=0,0");
     // In use, a center of 0 is a center like any other.
     s.center = CShewhartData::GetDefaultCenterEdit();
     s.centerInUse = 1;
     SetShewhart(s);
-    EXPECT_EQ(ShewhartLine(), u"SHEWHART * / TYPE=XBAR CENTER=0 SIGMA=1.5");
+    EXPECT_EQ(ShewhartLine(), u"SHEWHART * / TYPE=XBAR CENTER=0 SIGMA=1.5 PLIMITS=0,0");
 }
 
 TEST_F(ChartSettings, OnlyTheChosenLimitsAreWrittenAndABoundMayBeMissing)
@@ -139,17 +144,24 @@ TEST_F(ChartSettings, OnlyTheChosenLimitsAreWrittenAndABoundMayBeMissing)
         EXPECT_EQ(ShewhartLine(), u"SHEWHART Y* / TYPE=XBAR" + clause) << radio;
     }
 
-    // A bound left empty keeps its place; without either bound no clause.
+    // 0 is a bound like any other; an emptied bound keeps its place, and
+    // without either bound there is no clause.
     s.limits = 1;
     s.upper = CShewhartData::GetDefaultLimitsUpperEdit();
     SetShewhart(s);
+    EXPECT_EQ(ShewhartLine(), u"SHEWHART Y* / TYPE=XBAR LIMITS=-2.5,0");
+    s.upper = kEmpty;
+    SetShewhart(s);
     EXPECT_EQ(ShewhartLine(), u"SHEWHART Y* / TYPE=XBAR LIMITS=-2.5,");
-    s.lower = CShewhartData::GetDefaultLimitsLowerEdit();
+    s.lower = kEmpty;
     s.upper = Given(8);
     SetShewhart(s);
     EXPECT_EQ(ShewhartLine(), u"SHEWHART Y* / TYPE=XBAR LIMITS=,8");
     s.limits = 0;
     s.pLower = s.pUpper = CShewhartData::GetDefaultPLimitsLowerEdit();
+    SetShewhart(s);
+    EXPECT_EQ(ShewhartLine(), u"SHEWHART Y* / TYPE=XBAR PLIMITS=0,0");
+    s.pLower = s.pUpper = kEmpty;
     SetShewhart(s);
     EXPECT_EQ(ShewhartLine(), u"SHEWHART Y* / TYPE=XBAR");
 }
@@ -159,10 +171,10 @@ TEST_F(ChartSettings, AggAndTotalCountOnlyWhileOffered)
     Shewhart s;
     s.avgn = s.agg = s.total = s.z = 1;
     SetShewhart(s);
-    EXPECT_EQ(ShewhartLine(), u"SHEWHART * / TYPE=XBAR AVGN Z");
+    EXPECT_EQ(ShewhartLine(), u"SHEWHART * / TYPE=XBAR PLIMITS=0,0 AVGN Z");
     s.aggEnabled = s.totalEnabled = 1;
     SetShewhart(s);
-    EXPECT_EQ(ShewhartLine(), u"SHEWHART * / TYPE=XBAR AVGN AGG TOTAL Z");
+    EXPECT_EQ(ShewhartLine(), u"SHEWHART * / TYPE=XBAR PLIMITS=0,0 AVGN AGG TOTAL Z");
 }
 
 TEST_F(ChartSettings, RunTestsJoinTheChartLineOnlyWhenNotAllArePerformed)
@@ -176,11 +188,11 @@ TEST_F(ChartSettings, RunTestsJoinTheChartLineOnlyWhenNotAllArePerformed)
     };
     for (const auto& [f, text] : cases) {
         tests->SetAll(f[0], f[1], f[2], f[3], f[4], f[5], f[6], f[7], f[8]);
-        EXPECT_EQ(Commands(shewhart), (Lines16{u"QC", u"SHEWHART * / TYPE=XBAR" + text}));
+        EXPECT_EQ(Commands(shewhart), (Lines16{u"QC", u"SHEWHART * / TYPE=XBAR PLIMITS=0,0" + text}));
     }
     // Out of use, the page adds nothing.
     tests->SetWindowState(0);
-    EXPECT_EQ(ShewhartLine(), u"SHEWHART * / TYPE=XBAR");
+    EXPECT_EQ(ShewhartLine(), u"SHEWHART * / TYPE=XBAR PLIMITS=0,0");
 }
 
 TEST_F(ChartSettings, RunTestsBringTheirSlashOnlyToAListWithoutOne)
@@ -205,7 +217,7 @@ TEST_F(ChartSettings, XMrWritesEachKnownValueOnceByItsState)
     XMr x;
     x.chart = Vars({u"Y"});
     x.Into(*xmr.GetXMrData());
-    EXPECT_EQ(Commands(xmr), (Lines16{u"QC", u"XMR   Y /  MEAN "}));
+    EXPECT_EQ(Commands(xmr), (Lines16{u"QC", u"XMR   Y /  PLIMITS=0,0 MEAN "}));
     host.writeEveryOption = true;
     EXPECT_EQ(XMrLine(), u"XMR   Y /  WIDTH = 2  CENTER = 0    MR = 0  SIGMA = 0 PLIMITS=0,0 MEAN ");
     host.writeEveryOption = false;
@@ -215,13 +227,14 @@ TEST_F(ChartSettings, XMrWritesEachKnownValueOnceByItsState)
     x.sigma = Given(0.5, 0);
     x.centerLine = 1;
     x.Into(*xmr.GetXMrData());
-    EXPECT_EQ(XMrLine(), u"XMR   Y /  WIDTH = 3  CENTER = 10  SIGMA = 0.5 MEDIAN ");
+    EXPECT_EQ(XMrLine(), u"XMR   Y /  WIDTH = 3  CENTER = 10  SIGMA = 0.5 PLIMITS=0,0 MEDIAN ");
 
     x.width = CXMrData::GetDefaultWidthEdit();
     x.center = x.sigma = CXMrData::GetDefaultCenterEdit();
     x.mr = Given(1.25, 0);
     x.centerLine = 2; // no such button: no center-line keyword
     x.limits = 1;
+    x.sLower = kEmpty;
     x.sUpper = Given(2.5, 0);
     x.Into(*xmr.GetXMrData());
     EXPECT_EQ(XMrLine(), u"XMR   Y /     MR = 1.25 SLIMITS=,2.5");
@@ -299,6 +312,7 @@ TEST_F(ChartSettings, TabRecordsRoundTripTheirPagesAndCopiesCarryThem)
     s.type = 5;
     s.limits = 2;
     s.sLower = Given(2);
+    s.sUpper = kEmpty; // an emptied bound stays empty in the record
     SetShewhart(s);
     shewhart.GetQcTestsData()->SetAll(0, 1, 1, 0, 0, 0, 0, 0, 0);
 
