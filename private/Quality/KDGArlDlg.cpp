@@ -71,14 +71,15 @@ void CArlDlg::UpdateDependentWindows()
     CGUIPageDlg::UpdateDependentWindows();
     const UINT chart = SelectedChart();
     CString limit(u"&Limits (sigma):");
+    // The labels keep their access keys whatever the chart.
     CString parameter(u"&Parameter:");
     switch (chart) {
-    case CArlData::kEwma: parameter = u"&Weight (lambda):"; break;
+    case CArlData::kEwma: parameter = u"&Parameter λ (weight):"; break;
     case CArlData::kCusum:
-        limit = u"&Decision interval h:";
-        parameter = u"&Reference value k:";
+        limit = u"&Limit h (decision interval):";
+        parameter = u"&Parameter k (reference):";
         break;
-    case CArlData::kMovingAverage: parameter = u"S&pan:"; break;
+    case CArlData::kMovingAverage: parameter = u"&Parameter (span):"; break;
     default: break;
     }
     SetDlgItemText(IDC_LIMIT_LABEL, limit);

@@ -11,9 +11,9 @@ void CPcaData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
     AddModuleCmd(kModuleQc, list);
 
     CString line = kal::quality::ChartLineHead(*this, u"CAPABILITY ", m_MeasureVariables, m_GroupVariables);
-    line += AddEditValueCmd(m_LowerEdit, u" LSL=", IsToBeWritten(m_LowerEdit));
-    line += AddEditValueCmd(m_UpperEdit, u" USL=", IsToBeWritten(m_UpperEdit));
-    line += AddEditValueCmd(m_TargetEdit, u" TARGET=", IsToBeWritten(m_TargetEdit));
+    line += AddEditValueCmd(m_LowerEdit, u" LSL=", kal::quality::IsGiven(m_LowerEdit));
+    line += AddEditValueCmd(m_UpperEdit, u" USL=", kal::quality::IsGiven(m_UpperEdit));
+    line += AddEditValueCmd(m_TargetEdit, u" TARGET=", kal::quality::IsGiven(m_TargetEdit));
     line += AddOnConditionCmd(u" SIGMA=OVERALL", CRadioUtil::GetRadioItem(kSigmaRadio, m_SigmaRadio) == kItemOverall);
     line += AddOnConditionCmd(u" CP", m_PotentialCheck);
     line += AddOnConditionCmd(u" PP", m_PerformanceCheck);

@@ -9,6 +9,7 @@
 #include "framework/Fields.h"
 #include "framework/GUIBaseObj.h"
 #include "ids/quality.h"
+#include "private/Quality/KDGControlLimits.h"
 
 #include <limits>
 
@@ -23,7 +24,8 @@ public:
 
     CPcaData() { kal::ResetFields(*this); }
 
-    static CGUIData<double> GetDefaultNoneGiven() { return CGUIData<double>(1, 0.0, 0.0, 0, 1); }
+    // Limits and target start empty: not given.
+    static CGUIData<double> GetDefaultNoneGiven() { return kal::quality::NoNumber(); }
     static int GetDefaultZero() { return 0; }
     static int GetDefaultOne() { return 1; }
 
@@ -56,9 +58,9 @@ public:
             F::Source(&CPcaData::m_SourceVariables, Ids::IDC_SOURCE_LIST),
             F::List(&CPcaData::m_MeasureVariables, Ids::IDC_MEASURE_LIST),
             F::List(&CPcaData::m_GroupVariables, Ids::IDC_GROUP_LIST),
-            F::Value(&CPcaData::m_LowerEdit, Ids::IDC_LSL_EDIT, &GetDefaultNoneGiven).Optional(),
-            F::Value(&CPcaData::m_UpperEdit, Ids::IDC_USL_EDIT, &GetDefaultNoneGiven).Optional(),
-            F::Value(&CPcaData::m_TargetEdit, Ids::IDC_TARGET_EDIT, &GetDefaultNoneGiven).Optional(),
+            F::Value(&CPcaData::m_LowerEdit, Ids::IDC_LSL_EDIT, &GetDefaultNoneGiven).Blank(),
+            F::Value(&CPcaData::m_UpperEdit, Ids::IDC_USL_EDIT, &GetDefaultNoneGiven).Blank(),
+            F::Value(&CPcaData::m_TargetEdit, Ids::IDC_TARGET_EDIT, &GetDefaultNoneGiven).Blank(),
             F::Value(&CPcaData::m_SigmaRadio, Ids::IDC_WITHIN_RADIO, &GetDefaultZero),
             F::Value(&CPcaData::m_PotentialCheck, Ids::IDC_POTENTIAL_CHECK, &GetDefaultOne),
             F::Value(&CPcaData::m_PerformanceCheck, Ids::IDC_PERFORMANCE_CHECK, &GetDefaultOne),

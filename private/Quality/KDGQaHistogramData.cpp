@@ -10,9 +10,9 @@ void CQaHistogramData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
     AddModuleCmd(kModuleQc, list);
     CString line = kal::quality::ChartLineHead(*this, u"HISTOGRAM ", m_MeasureVariables, {});
     line += AddEditValueCmd(m_BinsEdit, u" BINS=", IsToBeWritten(m_BinsEdit));
-    line += AddEditValueCmd(m_LowerEdit, u" LSL=", IsToBeWritten(m_LowerEdit));
-    line += AddEditValueCmd(m_UpperEdit, u" USL=", IsToBeWritten(m_UpperEdit));
-    line += AddEditValueCmd(m_TargetEdit, u" TARGET=", IsToBeWritten(m_TargetEdit));
+    line += AddEditValueCmd(m_LowerEdit, u" LSL=", kal::quality::IsGiven(m_LowerEdit));
+    line += AddEditValueCmd(m_UpperEdit, u" USL=", kal::quality::IsGiven(m_UpperEdit));
+    line += AddEditValueCmd(m_TargetEdit, u" TARGET=", kal::quality::IsGiven(m_TargetEdit));
     line += AddOnConditionCmd(u" NORMAL", m_NormalCheck);
     kal::quality::PushChartLine(list, line, u"HISTOGRAM ");
 }

@@ -1,12 +1,13 @@
 // CQaHistogramData: the quality histogram: measurements in bins, with the
 // specification limits and the target drawn as lines and a fitted normal
 // curve over the bars. The number of bins may be left to the data; a limit
-// or target left empty (or 0) is not drawn.
+// or target left empty is not drawn.
 #pragma once
 
 #include "framework/Fields.h"
 #include "framework/GUIBaseObj.h"
 #include "ids/quality.h"
+#include "private/Quality/KDGControlLimits.h"
 
 class CQaHistogramData : public CGUIBaseObj {
     DECLARE_SERIAL(CQaHistogramData)
@@ -18,7 +19,8 @@ public:
 
     // 0 bins: as many as the data suggests.
     static CGUIData<int> GetDefaultBinsEdit() { return CGUIData<int>(1, 0, 0, 0, 1); }
-    static CGUIData<double> GetDefaultNoneGiven() { return CGUIData<double>(1, 0.0, 0.0, 0, 1); }
+    // Limits and target start empty: not given.
+    static CGUIData<double> GetDefaultNoneGiven() { return kal::quality::NoNumber(); }
     static int GetDefaultNormalCheck() { return 1; }
 
     int GetAll(CGUIArray<CGUIDataVariable>& source, CGUIArray<CGUIDataVariable>& measures, CGUIData<int>& bins,
@@ -51,9 +53,9 @@ public:
             F::Value(&CQaHistogramData::m_BinsEdit, Ids::IDC_BINS_EDIT, &GetDefaultBinsEdit)
                 .Range(0, kMaxBins)
                 .Optional(),
-            F::Value(&CQaHistogramData::m_LowerEdit, Ids::IDC_LSL_EDIT, &GetDefaultNoneGiven).Optional(),
-            F::Value(&CQaHistogramData::m_UpperEdit, Ids::IDC_USL_EDIT, &GetDefaultNoneGiven).Optional(),
-            F::Value(&CQaHistogramData::m_TargetEdit, Ids::IDC_TARGET_EDIT, &GetDefaultNoneGiven).Optional(),
+            F::Value(&CQaHistogramData::m_LowerEdit, Ids::IDC_LSL_EDIT, &GetDefaultNoneGiven).Blank(),
+            F::Value(&CQaHistogramData::m_UpperEdit, Ids::IDC_USL_EDIT, &GetDefaultNoneGiven).Blank(),
+            F::Value(&CQaHistogramData::m_TargetEdit, Ids::IDC_TARGET_EDIT, &GetDefaultNoneGiven).Blank(),
             F::Value(&CQaHistogramData::m_NormalCheck, Ids::IDC_NORMAL_CHECK, &GetDefaultNormalCheck),
         };
     }

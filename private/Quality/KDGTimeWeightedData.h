@@ -47,7 +47,7 @@ public:
     static CGUIData<int> GetDefaultSpanEdit() { return CGUIData<int>(1, 3, 3, 0, 1); }
     static CGUIData<double> GetDefaultKEdit() { return Number(0.5); }
     static CGUIData<double> GetDefaultHEdit() { return Number(5); }
-    // Target, sigma and bounds start at 0: none given.
+    // Target and sigma start at 0: none given; the bounds show their 0.
     static CGUIData<double> GetDefaultNoneGiven() { return Number(0); }
     static int GetDefaultZero() { return 0; }
 
@@ -98,16 +98,16 @@ public:
             F::Value(&CTimeWeightedData::m_HEdit, Ids::IDC_H_EDIT, &GetDefaultHEdit).Range(0, kMaxDecisionInterval),
             F::Value(&CTimeWeightedData::m_PLimitsLowerEdit, Ids::IDC_PLIMITS_LOWER, &GetDefaultNoneGiven)
                 .Range(0, 1)
-                .Optional(),
+                .Blank(),
             F::Value(&CTimeWeightedData::m_PLimitsUpperEdit, Ids::IDC_PLIMITS_UPPER, &GetDefaultNoneGiven)
                 .Range(0, 1)
-                .Optional(),
+                .Blank(),
             F::Value(&CTimeWeightedData::m_SigmaLowerEdit, Ids::IDC_SLIMITS_LOWER, &GetDefaultNoneGiven)
                 .Range(0, kMaxSigmaMultiple)
-                .Optional(),
+                .Blank(),
             F::Value(&CTimeWeightedData::m_SigmaUpperEdit, Ids::IDC_SLIMITS_UPPER, &GetDefaultNoneGiven)
                 .Range(0, kMaxSigmaMultiple)
-                .Optional(),
+                .Blank(),
             F::Value(&CTimeWeightedData::m_SidesRadio, Ids::IDC_TWO_SIDED_RADIO, &GetDefaultZero),
             F::Value(&CTimeWeightedData::m_FirCheck, Ids::IDC_FIR_CHECK, &GetDefaultZero),
             F::Value(&CTimeWeightedData::m_LimitsRadio, Ids::IDC_PLIMITS_RADIO, &GetDefaultZero),

