@@ -4,24 +4,14 @@
 #include "private/Quality/KDGXMrTabData.h"
 #include "refhost/HostGlobal.h"
 #include "tests/support/FakeHost.h"
-#include "tests/support/Process.h"
+#include "tests/support/Kalhost.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
-using kaltest::ProcessResult;
-using kaltest::RunProcess;
+using kaltest::Kalhost;
 using kaltest::TempDir;
-
-namespace {
-
-ProcessResult Kalhost(const std::vector<std::string>& args, const std::string& input = {})
-{
-    return RunProcess(KALHOST_PATH, args, input);
-}
-
-} // namespace
 
 TEST(ChartSession, ChoicesSurviveARestartButTheKnownCenterIsInUseForTheSessionOnly)
 {
