@@ -116,11 +116,14 @@ TEXT
         if [ "$(grep -c "^## .*($id)" docs/commands.md)" -eq 1 ] && [ "$(grep -o '([0-9]*)' <<<"$title" | wc -l)" -gt 1 ]; then
             printf '\n### %s (%s)\n' "$(menu_text "$id")" "$id" >>"$md"
         fi
+        local single
         for page in $(seq 0 20); do
+            single=0
             printf 'page %d\ncancel\n' "$page" | "$k" open "$id" --actions - >/dev/null 2>"$work/err" || true
-            if grep -q "has no pages" "$work/err" && [ "$page" -gt 0 ]; then
-                break
-            elif grep -q "no page" "$work/err" && ! grep -q "has no pages" "$work/err"; then
+            # A dialog without pages is drawn once, as its one page.
+            if [ "$page" -eq 0 ] && grep -q "has no pages" "$work/err"; then
+                single=1
+            elif grep -q "no page\|has no pages" "$work/err"; then
                 break
             elif grep -q "not available" "$work/err"; then
                 continue
@@ -139,13 +142,14 @@ TEXT
             if [ "$drawn" -eq 0 ]; then
                 name="$(echo "$class" | sed 's/^C//; s/TabDlg$//; s/Dlg$//' | tr '[:upper:]' '[:lower:]')-page-$((page + 1))"
                 echo "note: no script in docs/gallery draws page $page of command $id; drawn as it opens" >&2
-                if grep -q "has no pages" "$work/err"; then
+                if [ "$single" -eq 1 ]; then
                     render "$name" "$id" "" </dev/null
                 else
                     printf 'page %d\n' "$page" | render "$name" "$id" ""
                 fi
                 printf '\n![Page %d](images/%s.png)\n' "$((page + 1))" "$name" >>"$md"
             fi
+            [ "$single" -eq 0 ] || break
         done
     done
     cp "$md" docs/gallery.md

@@ -106,6 +106,25 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "", "", "", 1, "", ""},
         {"xmr.kal", "fill-weights.csv", "QC\nXMR   weight /  WIDTH = 3  CENTER = 500 SLIMITS=3,3 MEAN \n", "", "", "",
          1, "", ""},
+        {"quality-graphs.kal", "fill-weights.csv",
+         "QC\nBOX weight*lot / NOTCH OUTLIERS CENTER\nQC\nRUNCHART weight*lot / RUNS\n"
+         "QC\nHISTOGRAM weight / BINS=12 LSL=495 USL=505 TARGET=500 NORMAL\n",
+         "2045", "QC\nHISTOGRAM weight / BINS=12 LSL=495 USL=505 TARGET=500 NORMAL\n",
+         "expect text 5595 12\nexpect items 5592 weight\ncancel\n", 1, "", ""},
+        {"capability.kal", "fill-weights.csv",
+         "QC\nCAPABILITY weight*lot / LSL=495 USL=505 TARGET=500 CP PP NORMTEST\n", "2047",
+         "QC\nCAPABILITY weight*lot / LSL=495 USL=505 TARGET=500 CP PP NORMTEST\n",
+         "expect text 5556 495\nexpect items 5545 lot\ncancel\n", 1, "", ""},
+        {"run-lengths.kal", "",
+         "QC\nARL XBAR / N=4 MAXSHIFT=3 STEP=0.5 L=3\nQC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
+         "2038", "QC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
+         "expect combo 5512 1\nexpect text 5519 \"&Parameter λ (weight):\"\nexpect text 5513 5\ncancel\n", 1, "", ""},
+        {"time-weighted.kal", "fill-weights.csv",
+         "QC\nEWMA weight*lot / LAMBDA=0.1 TARGET=500 SLIMITS=2.7,2.7\n"
+         "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\nQC\nMA weight*lot / SPAN=4 PLIMITS=0,0  TEST = 1 2 \n",
+         "2035", "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\n",
+         // The CUSUM page shows its own controls, not the limits.
+         "expect checked 5478 1\nexpect text 5488 4\nexpect visible 5470 0\ncancel\n", 1, "", ""},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
