@@ -289,25 +289,37 @@ void SyncFolder(const std::filesystem::path& file)
         ::fsync(folder.Get());
 }
 
-// The store's lock: held while a save re-reads, merges and replaces it. A
-// file of its own, since the store itself is replaced by each save.
+// The store's lock, held while a save re-reads, merges and replaces it: a
+// lock on the store file itself (made empty, an empty store, when there is
+// none). A save renames a new file over the one locked, so a lock won on a
+// file that is no longer the store is given up and taken again.
 class StoreLock {
 public:
     explicit StoreLock(const std::filesystem::path& target)
-        : m_fd(::open((target.string() + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666))
     {
-        if (m_fd.Get() < 0)
-            throw StoreAccessError(target.string() + " cannot be saved: its lock file " + target.string() +
-                                   ".lock cannot be opened (" + Reason(errno) +
-                                   "); check that its folder is writable");
-        while (::flock(m_fd.Get(), LOCK_EX) != 0)
-            if (errno != EINTR)
+        for (;;) {
+            auto fd = std::make_unique<Descriptor>(::open(target.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, 0666));
+            if (fd->Get() < 0)
+                throw StoreAccessError(target.string() + " cannot be saved: it cannot be opened to be locked (" +
+                                       Reason(errno) + "); check that its folder exists and is writable");
+            int result = 0;
+            while ((result = ::flock(fd->Get(), LOCK_EX)) != 0 && errno == EINTR) {
+            }
+            if (result != 0)
                 throw StoreAccessError(target.string() + " cannot be saved: it cannot be locked (" + Reason(errno) +
                                        ")");
+            struct stat locked {};
+            struct stat current {};
+            if (::fstat(fd->Get(), &locked) == 0 && ::stat(target.c_str(), &current) == 0 &&
+                locked.st_dev == current.st_dev && locked.st_ino == current.st_ino) {
+                m_fd = std::move(fd);
+                return;
+            }
+        }
     }
 
 private:
-    Descriptor m_fd;
+    std::unique_ptr<Descriptor> m_fd;
 };
 
 std::filesystem::path AsideName(const std::filesystem::path& file)

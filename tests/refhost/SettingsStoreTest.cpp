@@ -61,8 +61,8 @@ TEST(SettingsStoreFile, RoundTripsObjectsAndCarriesUnknownClasses)
     EXPECT_EQ(entries[1].className, "CAnovaTabData");
     // Nothing changed: the file is not rewritten.
     EXPECT_FALSE(loaded.Save(file).written);
-    // No temporary file is left behind; the lock file stays for the next save.
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.Path()), {}), 2);
+    // No temporary file is left behind.
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.Path()), {}), 1);
 }
 
 TEST(SettingsStoreFile, DamageCostsTheDamagedEntryOnly)
