@@ -714,6 +714,18 @@ void CheckHolderState(UINT control, const CGUIData<T>& value)
         RefuseField(control, "a value whose state is 0 or 1", value.m_nState);
 }
 
+template <class T>
+void CheckNumberHolder(const CFieldExchange& field, const CGUIData<T>& value)
+{
+    CheckHolderState(field.control, value);
+    const auto v = static_cast<double>(value.m_Value);
+    if (!std::isfinite(v) || !std::isfinite(static_cast<double>(value.m_DefaultValue)))
+        RefuseField(field.control, "a finite number", v);
+    // No range is held against a number: a page lets a value outside its
+    // range stand while its edit is out of use, so a stored one may be the
+    // user's own; the page's OK refuses it when the edit is in use.
+}
+
 } // namespace
 
 void CGUIBaseDlg::CheckField(const CFieldExchange& field, int value) const
@@ -742,29 +754,8 @@ void CGUIBaseDlg::CheckField(const CFieldExchange& field, int value) const
         if (value != 0 && value != 1)
             RefuseField(field.control, "a check box that is 0 or 1", value);
         break;
-    case ControlKind::Edit:
-        if (field.rangeMessage != 0 && (value < field.min || value > field.max))
-            RefuseField(field.control, "a number from " + CString::FromNumber(field.min).ToUtf8() + " to " +
-                                           CString::FromNumber(field.max).ToUtf8(),
-                        value);
-        break;
     default: break;
     }
-}
-
-template <class T>
-static void CheckNumberHolder(const CFieldExchange& field, const CGUIData<T>& value)
-{
-    CheckHolderState(field.control, value);
-    const auto v = static_cast<double>(value.m_Value);
-    if (!std::isfinite(v) || !std::isfinite(static_cast<double>(value.m_DefaultValue)))
-        RefuseField(field.control, "a finite number", v);
-    // An optional value at its default means "none given", whatever it is.
-    const bool none = (field.flags & kal::kFieldOptional) && value.m_nState == 1 && value.m_Value == value.m_DefaultValue;
-    if (field.rangeMessage != 0 && !none && !(v >= field.min && v <= field.max))
-        RefuseField(field.control, "a number from " + CString::FromNumber(field.min).ToUtf8() + " to " +
-                                       CString::FromNumber(field.max).ToUtf8(),
-                    v);
 }
 
 void CGUIBaseDlg::CheckField(const CFieldExchange& field, const CGUIData<int>& value) const

@@ -65,7 +65,8 @@ struct CFieldExchange {
 namespace kal {
 
 // A value of a settings object that its page cannot show: a radio index
-// past its group, a combo entry past its list, a number outside its range.
+// past its group, a combo entry past its list, a check box that is neither
+// 0 nor 1, a number that is not finite, a variable of no known type.
 // Settings handed to a page come from an earlier OK of the page, so such a
 // value can only come from a damaged or forged record, which is not used.
 class CFieldValueException : public CException {
