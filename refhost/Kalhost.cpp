@@ -620,8 +620,8 @@ int Run(int argc, char** argv)
     Options options;
     app.add_option("--data", options.dataFile, "CSV data file to open instead of the built-in sample");
     app.add_flag("--no-data", options.noData, "open no data sheet");
-    app.add_option("--categorical", options.categorical, "variables the data sheet marks categorical (A,B)")
-        ->delimiter(',');
+    std::string categorical;
+    app.add_option("--categorical", categorical, "variables the data sheet marks categorical (A,B)");
     app.add_flag("--matrix", options.matrix, "the open data is a matrix");
     app.add_option("--store", options.storeFile, "settings store: loaded at start when it exists, saved at exit");
     app.add_flag("--write-all", options.writeAll, "write every option, defaults included");
@@ -658,6 +658,11 @@ int Run(int argc, char** argv)
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {
         return CheckOutput(app.exit(e) == 0 ? kExitDone : kExitUsage);
+    }
+    for (std::size_t start = 0; !categorical.empty() && start <= categorical.size();) {
+        const std::size_t comma = std::min(categorical.find(',', start), categorical.size());
+        options.categorical.push_back(categorical.substr(start, comma - start));
+        start = comma + 1;
     }
     if (const std::string why = EmptyValue(app, options); !why.empty()) {
         std::cerr << "kalhost: " << why << std::endl;
