@@ -701,8 +701,8 @@ namespace {
 {
     std::ostringstream shown;
     shown << value;
-    throw kal::CFieldValueException("holds a value its dialog cannot show: control " + std::to_string(control) +
-                                    ", " + what + ", is " + shown.str());
+    throw kal::CFieldValueException("holds a value its dialog cannot show: control " + std::to_string(control) + ", " +
+                                    what + ", is " + shown.str());
 }
 
 // A holder's state says whether its value is its default: yes or no. (Its

@@ -345,7 +345,8 @@ void ScriptRunner::RunDialog(CHeadlessSession& session)
                 Fail(Outcome::BadLine, "line " + std::to_string(line.number) + ": \"open\" belongs in play scripts");
             else if (m_note)
                 m_note("line " + std::to_string(line.number) + ": the dialog opened at line " +
-                       std::to_string(m_openLine) + " is still open; it is left without ok or cancel, so its "
+                       std::to_string(m_openLine) +
+                       " is still open; it is left without ok or cancel, so its "
                        "choices are not kept");
             return; // this dialog is left open
         }

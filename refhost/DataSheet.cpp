@@ -339,8 +339,8 @@ private:
 
     void FieldTooLong()
     {
-        Fail(m_column + 1, "a value longer than " + std::to_string(kCsvMaxField >> 20) +
-                               " MiB (is a quote not closed?)");
+        Fail(m_column + 1,
+             "a value longer than " + std::to_string(kCsvMaxField >> 20) + " MiB (is a quote not closed?)");
     }
 
     DataSheet Finish()

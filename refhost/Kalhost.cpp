@@ -14,6 +14,7 @@
 #include <CLI/CLI.hpp>
 
 #include <dlfcn.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -72,12 +73,33 @@ std::string ReadBounded(std::istream& in, const std::string& name)
     return text;
 }
 
+// Standard input read at the descriptor, so that one that cannot be read
+// (closed, a directory) is told from one that is empty.
+std::string ReadStandardInput()
+{
+    std::string text;
+    char buffer[65536];
+    for (;;) {
+        const ssize_t n = ::read(STDIN_FILENO, buffer, sizeof buffer);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            throw UsageError(std::string("standard input cannot be read: ") + std::strerror(errno));
+        if (n == 0)
+            return text;
+        text.append(buffer, static_cast<std::size_t>(n));
+        if (text.size() > kMaxScriptBytes)
+            throw UsageError("standard input is longer than " + std::to_string(kMaxScriptBytes >> 20) +
+                             " MiB, more than any script needs");
+    }
+}
+
 // A script: standard input ("-") or a regular file. A directory or a device
 // is refused before it is read, so nothing blocks or grows without end.
 std::string ReadText(const std::string& file)
 {
     if (file == "-")
-        return ReadBounded(std::cin, "standard input");
+        return ReadStandardInput();
     std::error_code error;
     const auto status = std::filesystem::status(file, error);
     if (error || !std::filesystem::exists(status))
@@ -399,8 +421,8 @@ int OpenHeadless(Session& session, const Options& options)
                   << ", so it was left open: give it an action script (--actions FILE, or - for standard input), "
                   << "or show it in a window with --gui" << std::endl;
     else if (status == kExitDialogNotConfirmed && driver.LastLeftOpen())
-        std::cerr << "kalhost: " << ScriptName(options.actionsFile) << " ended with the dialog of "
-                  << options.commandId << " still open; end its actions with ok or cancel" << std::endl;
+        std::cerr << "kalhost: " << ScriptName(options.actionsFile) << " ended with the dialog of " << options.commandId
+                  << " still open; end its actions with ok or cancel" << std::endl;
     return status;
 }
 
@@ -511,7 +533,8 @@ int DumpStore(Session& session, const std::string& file)
     const auto& entries = contents.entries;
     std::cout << file << ": " << entries.size() << (entries.size() == 1 ? " entry" : " entries");
     if (!contents.damaged.empty())
-        std::cout << ", " << contents.damaged.size() << " damaged " << (contents.damaged.size() == 1 ? "part" : "parts");
+        std::cout << ", " << contents.damaged.size() << " damaged "
+                  << (contents.damaged.size() == 1 ? "part" : "parts");
     std::cout << '\n';
     for (const auto& entry : entries) {
         std::cout << "command " << entry.id << ", " << Printable(entry.className) << ", " << entry.record.size()
@@ -574,10 +597,11 @@ std::string SubcommandWord(int argc, char** argv)
 // at all: the run would use the sample data, no store, the default module.
 std::string EmptyValue(const CLI::App& app, const Options& options)
 {
-    const std::pair<const char*, const std::string*> valued[] = {
-        {"--data", &options.dataFile},     {"--store", &options.storeFile},
-        {"--module", &options.modulePath}, {"--decimal", &options.decimal},
-        {"--module-state", &options.moduleState}};
+    const std::pair<const char*, const std::string*> valued[] = {{"--data", &options.dataFile},
+                                                                 {"--store", &options.storeFile},
+                                                                 {"--module", &options.modulePath},
+                                                                 {"--decimal", &options.decimal},
+                                                                 {"--module-state", &options.moduleState}};
     for (const auto& [name, value] : valued)
         if (app.get_option(name)->count() > 0 && value->empty())
             return std::string(name) + " needs a value; an empty one is not one";

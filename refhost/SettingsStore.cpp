@@ -130,18 +130,18 @@ void ReadFormat2(const std::vector<BYTE>& bytes, StoreContents& contents)
             // Damage where an entry should start: up to the next intact one.
             const std::size_t next = NextEntryHeader(bytes, pos);
             ++found; // most likely one entry
-            contents.damaged.push_back(
-                {std::nullopt, "damaged bytes " + std::to_string(pos) + " to " + std::to_string(next - 1) +
-                                   ", where an entry should start (its command is not known)",
-                 Slice(bytes, pos, next)});
+            contents.damaged.push_back({std::nullopt,
+                                        "damaged bytes " + std::to_string(pos) + " to " + std::to_string(next - 1) +
+                                            ", where an entry should start (its command is not known)",
+                                        Slice(bytes, pos, next)});
             pos = next;
             continue;
         }
         ++found;
         const std::string name = "entry for command " + std::to_string(header->id);
         if (bytes.size() - pos - kEntryHeaderSize < header->payloadLength + kChecksumSize) {
-            contents.damaged.push_back({header->id, name + ": the file ends inside it (it was cut short)",
-                                        Slice(bytes, pos, bytes.size())});
+            contents.damaged.push_back(
+                {header->id, name + ": the file ends inside it (it was cut short)", Slice(bytes, pos, bytes.size())});
             break;
         }
         const BYTE* payload = &bytes[pos + kEntryHeaderSize];
@@ -192,8 +192,8 @@ void ReadFormat1(const std::vector<BYTE>& bytes, StoreContents& contents)
         return;
     }
     if (start < bytes.size())
-        contents.damaged.push_back({std::nullopt, "unexpected bytes after the last entry",
-                                    Slice(bytes, start, bytes.size())});
+        contents.damaged.push_back(
+            {std::nullopt, "unexpected bytes after the last entry", Slice(bytes, start, bytes.size())});
 }
 
 // ---- Files --------------------------------------------------------------------
@@ -504,8 +504,7 @@ StoreFileState InspectStoreFile(const std::filesystem::path& file)
     if (std::memcmp(start, kMagic, static_cast<std::size_t>(n)) != 0)
         throw StoreAccessError(name + " is not a kalhost settings store (it does not start with KALSTORE), so it is "
                                       "left as it is: give --store a store, or the name of one to create");
-    state.writable =
-        ::access(target.c_str(), W_OK) == 0 && ::access(FolderOf(target).c_str(), W_OK | X_OK) == 0;
+    state.writable = ::access(target.c_str(), W_OK) == 0 && ::access(FolderOf(target).c_str(), W_OK | X_OK) == 0;
     return state;
 }
 

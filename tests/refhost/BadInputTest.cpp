@@ -245,6 +245,11 @@ TEST(BadInput, EveryOneIsRefusedOrSetAsideWithASentenceAndNothingRightIsLost)
          "", 2, "cannot be read: it is a directory"},
         {"a script longer than any script needs", [](const std::string&) { return Play(); },
          std::string((64 << 20) + 1, '#'), 2, "standard input is longer than 64 MiB"},
+        {"a directory as standard input",
+         [](const std::string& d) {
+             return std::vector<std::string>{"-c", "exec \"$0\" play - < \"$1\"", KALHOST_PATH, d};
+         },
+         "", 2, "standard input cannot be read: Is a directory"},
         {"an escape sequence in a script line", [](const std::string&) { return Play(); }, "\x1b[31mred\n", 2,
          "unknown action \"\\x1b[31mred\"",
          [](const std::string&, const kaltest::ProcessResult& r) { EXPECT_EQ(r.err.find('\x1b'), std::string::npos); }},

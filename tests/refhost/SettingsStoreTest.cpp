@@ -69,8 +69,8 @@ TEST(SettingsStoreFile, DamageCostsTheDamagedEntryOnly)
 {
     kaltest::FakeHost host;
     std::unique_ptr<CAnovaTabData> anova(Anova());
-    const std::vector<StoreEntry> originals = {SaveEntry(2008, *anova), {2052, "CRidgeRegressionData", {1, 2, 3}},
-                                               SaveEntry(2009, *anova)};
+    const std::vector<StoreEntry> originals = {
+        SaveEntry(2008, *anova), {2052, "CRidgeRegressionData", {1, 2, 3}}, SaveEntry(2009, *anova)};
     const std::vector<BYTE> whole = StoreBytes(originals);
     const auto isOriginal = [&](const StoreEntry& e) {
         return std::any_of(originals.begin(), originals.end(), [&](const StoreEntry& o) {
@@ -107,8 +107,8 @@ TEST(SettingsStoreFile, DamageCostsTheDamagedEntryOnly)
 TEST(SettingsStoreFile, OtherFormatsAndOtherFiles)
 {
     // Format 1 (no checksums) is read; its unreadable tail is one damaged part.
-    std::vector<BYTE> v1 = {'K', 'A', 'L', 'S', 'T', 'O', 'R', 'E', 1, 0, 0, 0, 2, 0, // two entries
-                            0xD8, 7, 0, 0, 3, 'C', 'X', 'y', 2, 0, 9, 8};
+    std::vector<BYTE> v1 = {'K',  'A', 'L', 'S', 'T', 'O', 'R', 'E', 1, 0, 0, 0, 2, 0, // two entries
+                            0xD8, 7,   0,   0,   3,   'C', 'X', 'y', 2, 0, 9, 8};
     const StoreContents old = ReadStoreBytes(v1, "old");
     ASSERT_EQ(old.entries.size(), 1u);
     EXPECT_EQ(old.entries[0].id, 2008u);
