@@ -341,11 +341,11 @@ std::string EntryName(UINT id, const std::string& className)
 StoreContents ReadStoreBytes(const std::vector<BYTE>& bytes, const std::string& name)
 {
     StoreContents contents;
+    if (bytes.empty())
+        return contents; // an empty file is an empty store
     const std::size_t magicBytes = std::min(bytes.size(), sizeof kMagic);
     if (std::memcmp(bytes.data(), kMagic, magicBytes) != 0)
         throw StoreError(name + " is not a kalhost settings store (it does not start with KALSTORE)");
-    if (bytes.empty())
-        return contents; // an empty file is an empty store
     if (bytes.size() < 12) {
         contents.damaged.push_back({std::nullopt, "the file ends inside its header", bytes});
         return contents;
@@ -382,7 +382,8 @@ std::vector<BYTE> EntryBytes(const StoreEntry& entry)
     {
         CArchive ar(&memory, CArchive::store);
         ar << CString::FromUtf8(entry.className);
-        ar.Write(entry.record.data(), entry.record.size());
+        if (!entry.record.empty())
+            ar.Write(entry.record.data(), entry.record.size());
         ar.Close();
     }
     const std::vector<BYTE> payload = memory.Detach();
