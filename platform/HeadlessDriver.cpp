@@ -144,8 +144,9 @@ bool CHeadlessSession::Menu(UINT list, UINT command)
     const bool shown = CUserInput::ContextMenu(control);
     m_menus.SetChoice(0);
     // A command the menu does not list is a mistake of the script; one it
-    // lists greyed out is a choice the user cannot make, and does nothing.
-    if (m_menus.ShownCount() != menusBefore) {
+    // lists greyed out is a choice the user cannot make, and does nothing;
+    // command 0 shows the menu and chooses nothing.
+    if (command != 0 && m_menus.ShownCount() != menusBefore) {
         const auto& items = m_menus.LastMenu().Items();
         if (std::none_of(items.begin(), items.end(), [command](const CMenuItem& i) { return i.id == command; })) {
             std::string listed;

@@ -227,7 +227,7 @@ TEST_F(LogitDialog, EveryNumericEditRefusesBadEntriesAndKeepsTheFocus)
         {kEstimation, Opts::IDC_ITERATIONS, u"10001", {2011, 2012, 2012, 2011}},
         {kEstimation, Opts::IDC_ENTER, u"2", {2010, 2012, 2012, 2010}},
         {kEstimation, Opts::IDC_REMOVE, u"1e3", {2010, 2012, 2012, 2010}},
-        {kEstimation, Opts::IDC_FORCE, u"2147483648", {2011, 2012, 2012, 2011}},
+        {kEstimation, Opts::IDC_FORCE, u"2147483648", {2011, 2012, 2011, 2011}},
         {kEstimation, Opts::IDC_MAXSTEP, u"0", {2011, 2012, 2012, 2011}},
         {kDeciles, Deciles::IDC_GROUPS, u"101", {2011, 2012, 2012, 2011}},
     };

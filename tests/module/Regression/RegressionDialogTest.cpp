@@ -213,7 +213,7 @@ TEST_F(RegressionDialog, EveryNumericEditRefusesBadEntriesAndKeepsTheFocus)
     // 2010: not a number, 2011: not a whole number, 2012: out of range, a
     // whole number beyond the edit's type included.
     const Edit edits[] = {
-        {kModel, Model::IDC_CASES, u"2147483648", {2011, 2012, 2012, 2011}},
+        {kModel, Model::IDC_CASES, u"2147483648", {2011, 2012, 2011, 2011}},
         {kEstimation, Estimation::IDC_TOLERANCE, u"1.5", {2010, 2012, 2012, 2010}},
         {kEstimation, Estimation::IDC_CONFIDENCE, u"1.01", {2010, 2012, 2012, 2010}},
         {kEstimation, Estimation::IDC_PROBABILITY_ENTER, u"2", {2010, 2012, 2012, 2010}},
@@ -221,7 +221,7 @@ TEST_F(RegressionDialog, EveryNumericEditRefusesBadEntriesAndKeepsTheFocus)
         {kEstimation, Estimation::IDC_FENTER, u"100001", {2010, 2012, 2012, 2010}},
         {kEstimation, Estimation::IDC_FREMOVE, u"1e6", {2010, 2012, 2012, 2010}},
         {kEstimation, Estimation::IDC_MAXSTEP, u"0", {2011, 2012, 2012, 2011}},
-        {kEstimation, Estimation::IDC_FORCE, u"2147483648", {2011, 2012, 2012, 2011}},
+        {kEstimation, Estimation::IDC_FORCE, u"2147483648", {2011, 2012, 2011, 2011}},
         {kPrediction, Predict::IDC_CONFIDENCE, u"100", {2010, 2012, 2012, 2010}},
     };
     host.dataTypeCode = KAL_DATA_MATRIX; // the number of cases is in use
