@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstring>
 #include <filesystem>
@@ -164,6 +165,23 @@ TEST(BadInput, EveryOneIsRefusedOrSetAsideWithASentenceAndNothingRightIsLost)
                                              Sample("anova.kal")};
          },
          "", 2, "cannot be saved: the data cannot be written"},
+        {"a store of another user, rewritten",
+         [](const std::string& d) {
+             WriteFile(d + kStore, StoreBytes({}));
+             // Only a privileged run can give the store away.
+             const bool privileged = ::geteuid() == 0;
+             EXPECT_TRUE(!privileged || ::chown((d + kStore).c_str(), 4242, 4243) == 0);
+             ::chmod((d + kStore).c_str(), 0640);
+             return std::vector<std::string>{"--store", d + kStore, "play", Sample("anova.kal")};
+         },
+         "", 0, "",
+         [](const std::string& d, const kaltest::ProcessResult&) {
+             struct stat info {};
+             ASSERT_EQ(::stat((d + kStore).c_str(), &info), 0);
+             EXPECT_EQ(info.st_mode & 07777, 0640u);
+             EXPECT_EQ(info.st_uid, ::geteuid() == 0 ? 4242u : ::geteuid());
+             EXPECT_EQ(ReadStoreFile(d + kStore).entries.size(), 1u);
+         }},
         {"an empty --store",
          [](const std::string&) {
              return std::vector<std::string>{"--store", "", "list"};
