@@ -14,6 +14,8 @@
 #include <CLI/CLI.hpp>
 
 #include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -57,39 +59,24 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// Reads at most kMaxScriptBytes of a stream that must end there.
-std::string ReadBounded(std::istream& in, const std::string& name)
-{
-    std::string text;
-    char buffer[65536];
-    while (in.read(buffer, sizeof buffer) || in.gcount() > 0) {
-        text.append(buffer, static_cast<std::size_t>(in.gcount()));
-        if (text.size() > kMaxScriptBytes)
-            throw UsageError(name + " is longer than " + std::to_string(kMaxScriptBytes >> 20) +
-                             " MiB, more than any script needs");
-    }
-    if (in.bad())
-        throw UsageError(name + " cannot be read");
-    return text;
-}
-
-// Standard input read at the descriptor, so that one that cannot be read
-// (closed, a directory) is told from one that is empty.
-std::string ReadStandardInput()
+// Reads a script to its end, at most kMaxScriptBytes of it. Reading at the
+// descriptor tells a stream that cannot be read (closed, a directory) from
+// one that is empty.
+std::string ReadScript(int fd, const std::string& name)
 {
     std::string text;
     char buffer[65536];
     for (;;) {
-        const ssize_t n = ::read(STDIN_FILENO, buffer, sizeof buffer);
+        const ssize_t n = ::read(fd, buffer, sizeof buffer);
         if (n < 0 && errno == EINTR)
             continue;
         if (n < 0)
-            throw UsageError(std::string("standard input cannot be read: ") + std::strerror(errno));
+            throw UsageError(name + " cannot be read: " + std::strerror(errno));
         if (n == 0)
             return text;
         text.append(buffer, static_cast<std::size_t>(n));
         if (text.size() > kMaxScriptBytes)
-            throw UsageError("standard input is longer than " + std::to_string(kMaxScriptBytes >> 20) +
+            throw UsageError(name + " is longer than " + std::to_string(kMaxScriptBytes >> 20) +
                              " MiB, more than any script needs");
     }
 }
@@ -99,19 +86,20 @@ std::string ReadStandardInput()
 std::string ReadText(const std::string& file)
 {
     if (file == "-")
-        return ReadStandardInput();
-    std::error_code error;
-    const auto status = std::filesystem::status(file, error);
-    if (error || !std::filesystem::exists(status))
-        throw UsageError(file + ": cannot be read: " + (error ? error.message() : std::strerror(ENOENT)));
-    if (!std::filesystem::is_regular_file(status))
-        throw UsageError(file + ": cannot be read: it is " +
-                         (std::filesystem::is_directory(status) ? "a directory" : "not a regular file") +
-                         "; give a script file, or - for standard input");
-    std::ifstream in(file, std::ios::binary);
-    if (!in)
+        return ReadScript(STDIN_FILENO, "standard input");
+    const int fd = ::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
         throw UsageError(file + ": cannot be read: " + std::strerror(errno));
-    return ReadBounded(in, file);
+    struct Closer {
+        int fd;
+        ~Closer() { ::close(fd); }
+    } closer{fd};
+    struct stat info {};
+    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode))
+        throw UsageError(file + ": cannot be read: it is " +
+                         (S_ISDIR(info.st_mode) ? "a directory" : "not a regular file") +
+                         "; give a script file, or - for standard input");
+    return ReadScript(fd, file);
 }
 
 std::string ScriptName(const std::string& file)
