@@ -22,13 +22,11 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
 #include <functional>
 #include <iomanip>
 #include <iostream>
 #include <optional>
 #include <set>
-#include <sstream>
 
 namespace kalhost {
 
