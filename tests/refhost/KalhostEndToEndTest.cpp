@@ -85,6 +85,9 @@ TEST(KalhostStore, AStoreCutShortLosesOnlyItsLastEntry)
     const std::string store = dir.Path() + "/s.store";
     ASSERT_EQ(Kalhost({"--store", store, "play", Sample("anova.kal")}).status, 0);
     ASSERT_EQ(Kalhost({"--store", store, "play", Sample("regression.kal")}).status, 0);
+    // The dump writes what the stored settings write, the constant included.
+    const auto whole = Kalhost({"store-dump", store});
+    EXPECT_NE(whole.out.find("  MODEL Y = CONSTANT+X+X2+W\n"), std::string::npos) << whole.out;
     std::filesystem::resize_file(store, std::filesystem::file_size(store) - 5);
 
     const auto r = Kalhost({"--store", store, "commands", "2008"});
