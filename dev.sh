@@ -142,6 +142,15 @@ TEXT
     done
     cp "$md" docs/gallery.md
     ls docs/images/*.png
+    # Every script is drawn into the gallery: one that opens no available
+    # dialog, or ends on no page of it, drew nothing and is stale.
+    for script in docs/gallery/*.kal; do
+        name=$(basename "$script" .kal)
+        if [ ! -f "docs/images/$name.png" ] || ! grep -qF "(images/$name.png)" docs/gallery.md; then
+            echo "!! $script drew no picture: check its open line and its last page line" >&2
+            failed=1
+        fi
+    done
     return "$failed"
 }
 

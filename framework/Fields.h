@@ -59,6 +59,10 @@ enum FieldFlags : unsigned {
     // holder its default back (state 1), and a holder at its default shows
     // as an empty edit. For values whose default means "none given".
     kFieldOptional = 4,
+    // An edited number the user may empty: an empty edit holds no number
+    // (NaN) and shows empty again; every number, the default included,
+    // shows as it is. For bounds where 0 is a value and "none" is another.
+    kFieldBlank = 8,
 };
 
 template <class Owner, class T>
@@ -104,6 +108,13 @@ struct Field {
     {
         Field f = *this;
         f.flags |= kFieldOptional;
+        return f;
+    }
+    // The page lets the user empty this number (see kFieldBlank).
+    constexpr Field Blank() const
+    {
+        Field f = *this;
+        f.flags |= kFieldBlank;
         return f;
     }
 

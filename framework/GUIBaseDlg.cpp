@@ -6,7 +6,9 @@
 #include "host/KalAssertDlg.h"
 
 #include <cmath>
+#include <limits>
 #include <sstream>
+#include <type_traits>
 #include <unordered_set>
 
 IMPLEMENT_DYNAMIC(CGUIBaseDlg, CDDXVDlg)
@@ -378,15 +380,19 @@ BOOL CGUIBaseDlg::EnableSourceToTarget(CGUIListCtrl* from, CGUIListCtrl* to, int
     return FALSE;
 }
 
+bool CGUIBaseDlg::AcceptsSelectedTypes(const CRoleList& row) const
+{
+    return !row.acceptsStrings || row.acceptsStrings() ||
+           !CGUIListCtrl::IsSelectetVariableTypePresent(m_pSourceList, NmsEnum::VT_STRING);
+}
+
 bool CGUIBaseDlg::CanAdd(const CRoleList& row) const
 {
     if (!m_pSourceList)
         return false;
     CGUIListCtrl* target = m_listCtrls.at(row.list).get();
-    const bool typesAccepted = !row.acceptsStrings || row.acceptsStrings() ||
-                               !CGUIListCtrl::IsSelectetVariableTypePresent(m_pSourceList, NmsEnum::VT_STRING);
     return EnableSourceToTarget(m_pSourceList, target, static_cast<int>(row.add)) && !m_pSourceList->IsBusy() &&
-           typesAccepted && (!row.enabled || row.enabled());
+           AcceptsSelectedTypes(row) && (!row.enabled || row.enabled());
 }
 
 bool CGUIBaseDlg::CanRemove(const CRoleList& row) const
@@ -436,7 +442,8 @@ void CGUIBaseDlg::RunButtonHandler(UINT buttonId)
 
 void CGUIBaseDlg::ListCtrlElementRemovalHelper(CGUIListCtrl* list)
 {
-    if (const CRoleList* row = FindRoleList(list))
+    // A drag out of a list removes only what its remove button could.
+    if (const CRoleList* row = FindRoleList(list); row && CanRemove(*row))
         RunButtonHandler(row->remove);
 }
 
@@ -492,9 +499,11 @@ void CGUIBaseDlg::OnBegindrag(NMHDR* pNMHDR, LRESULT*)
 
 bool CGUIBaseDlg::AcceptsDrop(const CRoleList& row)
 {
-    // A disabled list takes nothing, as a disabled window takes no input.
+    // A disabled list takes nothing, as a disabled window takes no input;
+    // nor does a list take a variable of a type its add button refuses.
     CGUIListCtrl& target = ListCtrl(row.list);
-    return target.IsWindowEnabled() && EnableSourceToTarget(m_pSourceList, &target, static_cast<int>(row.add));
+    return target.IsWindowEnabled() && (!TypeRuleAppliesToDragsAndMenu() || AcceptsSelectedTypes(row)) &&
+           EnableSourceToTarget(m_pSourceList, &target, static_cast<int>(row.add));
 }
 
 void CGUIBaseDlg::MouseMoveListCtrlHelper(const CWnd* over, HICON& cursor)
@@ -506,9 +515,12 @@ void CGUIBaseDlg::MouseMoveListCtrlHelper(const CWnd* over, HICON& cursor)
             cursor = CursorShape::Drop;
         return;
     }
-    // Dragging out of a target list takes the variables out of it.
-    if (over != m_pDragList)
-        cursor = CursorShape::Remove;
+    // Dragging out of a target list takes the variables out of it, where
+    // its remove button could; where it could not, nothing may be dropped.
+    if (over != m_pDragList) {
+        const CRoleList* row = FindRoleList(m_pDragList);
+        cursor = row && CanRemove(*row) ? CursorShape::Remove : CursorShape::NoDrop;
+    }
 }
 
 void CGUIBaseDlg::LButtonUpListCtrlHelper(const CWnd* over)
@@ -649,6 +661,23 @@ void CGUIBaseDlg::ExchangeNumberField(CDataExchange* pDX, const CFieldExchange& 
             return;
         }
     }
+    if constexpr (std::is_floating_point_v<T>) {
+        if (field.flags & kal::kFieldBlank) {
+            // Empty is a state of its own, both ways: no number.
+            CWnd* control = pDX->PrepareCtrl(field.control);
+            if (!control)
+                return;
+            if (!pDX->m_bSaveAndValidate && std::isnan(value.m_Value)) {
+                control->SetWindowText(CString());
+                return;
+            }
+            if (pDX->m_bSaveAndValidate && control->GetWindowText().Trim().IsEmpty()) {
+                value.m_Value = std::numeric_limits<T>::quiet_NaN();
+                value.m_nState = 0;
+                return;
+            }
+        }
+    }
     if (const CWnd* control = GetDlgItem(field.control);
         pDX->m_bSaveAndValidate && control && !IsCtrlInUse(field.control)) {
         // An edit the user cannot reach refuses nothing: its text counts
@@ -718,12 +747,10 @@ template <class T>
 void CheckNumberHolder(const CFieldExchange& field, const CGUIData<T>& value)
 {
     CheckHolderState(field.control, value);
-    const auto v = static_cast<double>(value.m_Value);
-    if (!std::isfinite(v) || !std::isfinite(static_cast<double>(value.m_DefaultValue)))
-        RefuseField(field.control, "a finite number", v);
-    // No range is held against a number: a page lets a value outside its
-    // range stand while its edit is out of use, so a stored one may be the
-    // user's own; the page's OK refuses it when the edit is in use.
+    // The value itself is not judged. An emptied bound holds no number
+    // (NaN); and a page lets a value outside its range stand while its edit
+    // is out of use, so a stored one may be the user's own (the page's OK
+    // refuses it when the edit is in use).
 }
 
 } // namespace

@@ -39,9 +39,10 @@ struct CRoleList {
     // the text of the control menuLabel (the list's label).
     UINT menuCommand = 0;
     UINT menuLabel = 0;
-    // Whether selected string variables may be added by the button now
-    // (null: yes). Drags and the menu test movability only, and that the
-    // list is enabled.
+    // Whether selected string variables may be added now (null: yes); the
+    // buttons, drags and the menu all apply it (but see
+    // TypeRuleAppliesToDragsAndMenu). Drags and the menu test besides only
+    // movability and that the list is enabled.
     std::function<bool()> acceptsStrings = {};
     // Further conditions of both buttons, and of the remove button alone
     // (null: none).
@@ -66,7 +67,8 @@ namespace kal {
 
 // A value of a settings object that its page cannot show: a radio index
 // past its group, a combo entry past its list, a check box that is neither
-// 0 nor 1, a number that is not finite, a variable of no known type.
+// 0 nor 1, a value whose state is neither 0 nor 1, a variable of no known
+// type.
 // Settings handed to a page come from an earlier OK of the page, so such a
 // value can only come from a damaged or forged record, which is not used.
 class CFieldValueException : public CException {
@@ -242,6 +244,12 @@ protected:
     // The role-list rule of the buttons: movable, the list not busy, the
     // selection's types accepted, the row's own conditions.
     bool CanAdd(const CRoleList& row) const;
+    // The type rule of a row: no string variable in the source's selection
+    // unless the row accepts strings now. Buttons, drags and the menu share it.
+    bool AcceptsSelectedTypes(const CRoleList& row) const;
+    // Whether drags and the menu apply the type rule too; a page whose
+    // buttons alone refuse strings answers false.
+    virtual bool TypeRuleAppliesToDragsAndMenu() const { return true; }
     // Whether a drag from the source list or the source list's menu may add
     // to the row's list now: the list is enabled and the move possible.
     bool AcceptsDrop(const CRoleList& row);

@@ -454,7 +454,7 @@ CString CGUIBaseObj::AppendLimits(const CGUIData<double>& lower, const CGUIData<
 {
     if (!bCondition)
         return {};
-    return keyword + NumberText(lower.m_Value) + u"," + NumberText(upper.m_Value);
+    return keyword + NumberText(lower.m_Value) + LimitsSeparator() + NumberText(upper.m_Value);
 }
 
 void CGUIBaseObj::AddStringCmd(const CString& text, CLIST<CCmdInfo>& list, const CString& prefix, const CString& suffix,

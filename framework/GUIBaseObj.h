@@ -165,6 +165,9 @@ public:
     static CString NumberText(int value) { return CString::FromNumber(value); }
     static CString NumberText(unsigned int value) { return CString::FromNumber(value); }
     static CString NumberText(double value) { return CString::FromNumber(value, kal::framework::DecimalSeparator()); }
+    // What stands between the two bounds of a limits clause: a comma, or a
+    // semicolon where the comma is the decimal separator (0,001;0,999).
+    static CString LimitsSeparator() { return kal::framework::DecimalSeparator() == u',' ? u";" : u","; }
     // A variable name as command text: plain identifiers as they are, any
     // other name in single quotes with inner quotes doubled.
     static CString QuoteName(const CString& name);

@@ -25,6 +25,9 @@ public:
     void EnableWindowObject(int) override {}
     void UpdateDependentWindows() override;
     BOOL OnUpdateAddTarget(CCmdUI* pCmdUI) override;
+    // The ANOVA model page's menu and drags test movability only: its
+    // buttons alone refuse string variables and factor moves.
+    bool TypeRuleAppliesToDragsAndMenu() const override { return false; }
     void OnReset() override;
     const char* GetSourceFile() const override { return "Source/KDGAnovaDlg"; }
 

@@ -1,23 +1,24 @@
 // The control-limits clause of the quality charts (" PLIMITS=", " LIMITS=",
-// " SLIMITS="), whose bounds the user may leave empty. A bound counts as
-// given when the value clauses rule writes it: the user entered a value
-// other than its default 0, or the host asks for every option and the
-// holder may be forced. A bound not given leaves its place before or after
-// the comma empty (" LIMITS=,8" is an upper limit alone); with neither
-// bound given the clause is left out and the chart keeps its usual limits.
+// " SLIMITS="). A bound edit shows its number, 0 included, and the user may
+// empty it: an empty bound holds no number and leaves its place before or
+// after the separator empty (" LIMITS=,8" is an upper limit alone). Both
+// bounds given write the framework's limits clause; both empty write no
+// clause, and the chart keeps its usual limits.
 #pragma once
 
 #include "framework/GUIBaseObj.h"
+
+#include <cmath>
 
 namespace kal::quality {
 
 CString LimitsClause(const CGUIBaseObj& settings, const CGUIData<double>& lower, const CGUIData<double>& upper,
                      const CString& keyword, int bCondition);
 
-// Whether the user gave a value: the holder no longer holds its default.
+// Whether the bound holds a number: the user did not empty its edit.
 inline bool IsGiven(const CGUIData<double>& bound)
 {
-    return bound.m_nState == 0;
+    return !std::isnan(bound.m_Value);
 }
 
 } // namespace kal::quality

@@ -111,18 +111,18 @@ public:
                 .Optional(),
             F::Value(&CShewhartData::m_PLimitsLowerEdit, Ids::IDC_PLIMITS_LOWER, &GetDefaultPLimitsLowerEdit)
                 .Range(0, 1)
-                .Optional(),
+                .Blank(),
             F::Value(&CShewhartData::m_PLimitsUpperEdit, Ids::IDC_PLIMITS_UPPER, &GetDefaultPLimitsUpperEdit)
                 .Range(0, 1)
-                .Optional(),
-            F::Value(&CShewhartData::m_LimitsLowerEdit, Ids::IDC_LIMITS_LOWER, &GetDefaultLimitsLowerEdit).Optional(),
-            F::Value(&CShewhartData::m_LimitsUpperEdit, Ids::IDC_LIMITS_UPPER, &GetDefaultLimitsUpperEdit).Optional(),
+                .Blank(),
+            F::Value(&CShewhartData::m_LimitsLowerEdit, Ids::IDC_LIMITS_LOWER, &GetDefaultLimitsLowerEdit).Blank(),
+            F::Value(&CShewhartData::m_LimitsUpperEdit, Ids::IDC_LIMITS_UPPER, &GetDefaultLimitsUpperEdit).Blank(),
             F::Value(&CShewhartData::m_SigmaLowerEdit, Ids::IDC_SLIMITS_LOWER, &GetDefaultSigmaLowerEdit)
                 .Range(0, kMaxSigmaMultiple)
-                .Optional(),
+                .Blank(),
             F::Value(&CShewhartData::m_SigmaUpperEdit, Ids::IDC_SLIMITS_UPPER, &GetDefaultSigmaUpperEdit)
                 .Range(0, kMaxSigmaMultiple)
-                .Optional(),
+                .Blank(),
             F::Value(&CShewhartData::m_AvgnCheck, Ids::IDC_AVGN_CHECK, &GetDefaultAvgnCheck),
             F::Value(&CShewhartData::m_AggOption, Ids::IDC_AGG_CHECK, &GetDefaultAggOption),
             F::Value(&CShewhartData::m_TotalOption, Ids::IDC_TOTAL_CHECK, &GetDefaultTotalOption),

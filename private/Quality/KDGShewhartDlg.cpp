@@ -163,8 +163,9 @@ void CShewhartDlg::OnSelchangeChartTypeCombo()
         ReportAssertion(kNoChartTypeLine);
         return;
     }
-    if (IsMedianChart())
-        ListCtrl(IDC_FREQUENCY_LIST).SetVariables({}, false);
+    // A median chart keeps the frequency variable chosen so far (its line is
+    // still written) but takes no other and gives it up only with another
+    // chart type: the frequency row's buttons are locked meanwhile.
     UpdateDependentWindows();
 }
 

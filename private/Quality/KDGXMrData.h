@@ -82,16 +82,16 @@ public:
             F::Value(&CXMrData::m_SigmaEdit, Ids::IDC_SIGMA_EDIT, &GetDefaultSigmaEdit).Range(0, kHuge).Optional(),
             F::Value(&CXMrData::m_PLimitsLowerEdit, Ids::IDC_PLIMITS_LOWER, &GetDefaultPLimitsLowerEdit)
                 .Range(0, 1)
-                .Optional(),
+                .Blank(),
             F::Value(&CXMrData::m_PLimitsUpperEdit, Ids::IDC_PLIMITS_UPPER, &GetDefaultPLimitsUpperEdit)
                 .Range(0, 1)
-                .Optional(),
+                .Blank(),
             F::Value(&CXMrData::m_SigmaLowerEdit, Ids::IDC_SLIMITS_LOWER, &GetDefaultSigmaLowerEdit)
                 .Range(0, kMaxSigmaMultiple)
-                .Optional(),
+                .Blank(),
             F::Value(&CXMrData::m_SigmaUpperEdit, Ids::IDC_SLIMITS_UPPER, &GetDefaultSigmaUpperEdit)
                 .Range(0, kMaxSigmaMultiple)
-                .Optional(),
+                .Blank(),
             F::Value(&CXMrData::m_CenterLineRadio, Ids::IDC_MEAN_RADIO, &GetDefaultCenterLineRadio),
             F::Value(&CXMrData::m_LimitsRadio, Ids::IDC_PLIMITS_RADIO, &GetDefaultLimitsRadio),
         };

@@ -116,7 +116,9 @@ TEST_F(CommandBuilding, LongListsStayJoinedAroundLeftOutNamesAndOutgrowTheirRoom
             add(u"middle\nbad");
         const std::u16string n = CString::FromNumber(i).Str();
         add(i % 10 == 0 ? u"V" + n : u"it's '" + n + u"'");
-        expected += (i > 0 ? u"+" : u"") + (i % 10 == 0 ? u"V" + n : u"'it''s ''" + n + u"'''");
+        if (i > 0)
+            expected += u"+";
+        expected += i % 10 == 0 ? u"V" + n : u"'it''s ''" + n + u"'''";
     }
     add(u"last\u007Fbad");
 
@@ -186,6 +188,8 @@ TEST_F(CommandBuilding, NumbersUseTheHostDecimalSeparator)
     EXPECT_EQ(settings.AppendLimits(lower, upper, u" LIMITS=", 0), CString());
     host.decimalSeparator = u',';
     EXPECT_EQ(settings.AppendEditValueCmd(lower, u" SIGMA="), CString(u" SIGMA=0,95"));
+    // The bounds' separator may not read as a decimal comma.
+    EXPECT_EQ(settings.AppendLimits(lower, upper, u" LIMITS=", 1), CString(u" LIMITS=0,95;1,23457e+06"));
     EXPECT_EQ(settings.AddOnConditionCmd(CGUIData<int>(3), 1), CString(u"3"));
     EXPECT_EQ(settings.AddOnConditionCmd(CGUIData<int>(3), 0), CString());
     EXPECT_EQ(settings.AddOnConditionCmd(u" MISS", CGUIDataWnd<int>(1, 0)), CString(u" MISS"));

@@ -39,18 +39,8 @@ TEST(ValueHolderArchive, DoubleRecordIsStoredInTheFrameworkFieldOrder)
     EXPECT_EQ(back, value);
 }
 
-TEST(ValueHolderArchive, ADefaultReadBackComparesEqualFieldByField)
+TEST(ValueHolderArchive, AnUnsignedValueBeyondTheIntRangeComesBack)
 {
-    CGUIData<double> original(0.001);
-    EXPECT_EQ(original.m_nState, 1);
-    EXPECT_EQ(original.m_nFlag1, 0);
-    EXPECT_EQ(original.m_nFlag2, 1);
-    const Bytes bytes = Store([&](CArchive& ar) { original.Serialize(ar); });
-    EXPECT_EQ(bytes, Cat({Int32(1), Int32(0), kDouble0_001, kDouble0_001, Int32(1)}));
-    CGUIData<double> back(1.0);
-    Load(bytes, [&](CArchive& ar) { back.Serialize(ar); });
-    EXPECT_EQ(back, original);
-
     CGUIData<unsigned int> count(0, 4000000000u, 15u, 1, 0);
     CGUIData<unsigned int> countBack;
     Load(Store([&](CArchive& ar) { count.Serialize(ar); }), [&](CArchive& ar) { countBack.Serialize(ar); });
@@ -176,33 +166,6 @@ TEST(ListArchive, TextNumberAndNestedListsRoundTrip)
     ASSERT_EQ(sets2.GetSize(), 2);
     EXPECT_EQ(sets2[0].GetSize(), 2);
     EXPECT_EQ(sets2[1].GetSize(), 0);
-}
-
-TEST(ArchiveRobustness, ARecordCutAtAnyByteEndsInEndOfFile)
-{
-    CGUIData<double> value(0, 2.5, 0.001, 0, 1);
-    auto variables = TwoVariables();
-    CGUIArray<CString> names{CString(u"a"), CString(u"b")};
-    CGUIArray<int> levels{2, 3};
-    const auto transfer = [&](CArchive& ar) {
-        value.Serialize(ar);
-        variables.Serialize(ar);
-        names.Serialize(ar);
-        levels.Serialize(ar);
-    };
-    for (const UINT schema : {UINT{CArchive::plainLists}, UINT{CArchive::namedLists}}) {
-        const Bytes whole = Store(transfer, schema);
-        for (std::size_t cut = 0; cut < whole.size(); ++cut) {
-            SCOPED_TRACE(cut);
-            const Bytes part(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(cut));
-            try {
-                Load(part, schema, transfer);
-                ADD_FAILURE() << "loaded " << cut << " of " << whole.size() << " bytes";
-            } catch (const CArchiveException& e) {
-                EXPECT_EQ(e.m_cause, CArchiveException::endOfFile);
-            }
-        }
-    }
 }
 
 TEST(ArchiveRobustness, AFailedLoadLeavesTheListAsItWas)

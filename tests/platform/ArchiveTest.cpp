@@ -189,3 +189,18 @@ TEST(ArchiveFile, StoresAndLoadsThroughAFile)
 
     EXPECT_THROW(CFile(path / "missing", CFile::modeRead), CFileException);
 }
+
+TEST(ArchiveFile, AnArchiveThatCannotBeWrittenOutSaysTheDiskIsFull)
+{
+    if (!std::filesystem::exists("/dev/full"))
+        GTEST_SKIP() << "no /dev/full here";
+    CFile file("/dev/full", CFile::modeWrite);
+    CArchive ar(&file, CArchive::store);
+    ar << CString(u"settings") << 42;
+    try {
+        ar.Close();
+        ADD_FAILURE() << "the archive closed as if written";
+    } catch (const CFileException& e) {
+        EXPECT_EQ(e.m_cause, CFileException::diskFull);
+    }
+}

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace {
 
 ControlTemplate Control(UINT id, ControlKind kind, const char16_t* caption = u"", DWORD style = WS_TABSTOP)
@@ -133,6 +135,22 @@ TEST_F(WindowModel, ScriptsThatStopEarlyLeaveTheDialogOpenAndBadActionsSayWhy)
         EXPECT_THROW(s.Select(30, {}), HeadlessError);
         EXPECT_THROW(s.Choose(50, 0), HeadlessError);
         EXPECT_THROW(s.Page(0), HeadlessError);
+        // Each action on a control of the wrong kind, and a reset the
+        // dialog has no button for, says what the control is not.
+        const std::pair<std::function<void()>, std::string> wrongKinds[] = {
+            {[&] { s.Click(30); }, "control 30 is not a button"},
+            {[&] { s.Check(1, 1); }, "control 1 is not a check box"},
+            {[&] { s.Type(31, u"x"); }, "control 31 is not an edit field"},
+            {[&] { s.Reset(); }, "the current page has no reset button"},
+        };
+        for (const auto& [action, message] : wrongKinds) {
+            try {
+                action();
+                ADD_FAILURE() << "no error: " << message;
+            } catch (const HeadlessError& e) {
+                EXPECT_EQ(e.what(), message);
+            }
+        }
         EXPECT_FALSE(s.Check(31, 1)); // disabled: no effect
         EXPECT_EQ(s.IsChecked(31), 0);
     });

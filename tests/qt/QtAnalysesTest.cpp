@@ -267,6 +267,7 @@ TEST_F(QtAnalyses, ShewhartChartMovesLimitsAndTests)
         Check(S::IDC_CENTER_CHECK, 1),
         Type(S::IDC_CENTER_EDIT, u"0.1"),
         Click(S::IDC_LIMITS_RADIO),
+        Type(S::IDC_LIMITS_LOWER, u""),
         Type(S::IDC_LIMITS_UPPER, u"0.4"),
         Page(1),
         Check(T::IDC_TEST4, 0),

@@ -15,6 +15,7 @@
 #include "refhost/qt/QtView.h"
 #include "tests/qt/QtTestSupport.h"
 #include "tests/support/FakeHost.h"
+#include "tests/support/Mnemonics.h"
 
 #include <QApplication>
 #include <QImage>
@@ -37,24 +38,6 @@ using namespace kaltest;
 namespace {
 
 constexpr UINT kTabDialogTemplate = 101;
-
-std::optional<char16_t> MnemonicOf(const CString& caption)
-{
-    const std::u16string& text = caption.Str();
-    for (std::size_t i = 0; i + 1 < text.size(); ++i) {
-        if (text[i] != u'&')
-            continue;
-        if (text[i + 1] != u'&')
-            return text[i + 1];
-        ++i;
-    }
-    return std::nullopt;
-}
-
-bool IsDecoration(ControlKind kind)
-{
-    return kind == ControlKind::Static || kind == ControlKind::GroupBox;
-}
 
 // The widget of control `id` on `container` and the one of its children
 // that takes the focus.
@@ -181,10 +164,7 @@ TEST_F(QtEveryDialog, EveryMnemonicLandsOnTheControlItNames)
             // A label's mnemonic focuses the next control after it.
             const ControlTemplate* target = &c;
             if (c.kind == ControlKind::Static) {
-                target = nullptr;
-                for (std::size_t j = i + 1; j < t.controls.size() && !target; ++j)
-                    if (!IsDecoration(t.controls[j].kind))
-                        target = &t.controls[j];
+                target = BuddyOf(t.controls, i);
                 ASSERT_NE(target, nullptr) << "label " << c.caption.ToUtf8() << " names nothing";
             }
             QWidget* control = ControlWidget(&page, target->id);

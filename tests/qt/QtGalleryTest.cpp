@@ -1,9 +1,10 @@
 // The pictures of the dialogs, drawn by kalhost as `./dev.sh screenshots`
 // draws the gallery: every page of every available menu row renders without
 // an assertion report to a picture that shows the page's controls, and the
-// gallery's action scripts run cleanly. A row is covered the moment it
-// becomes available.
-#include "tests/support/Process.h"
+// gallery's action scripts run cleanly (`./dev.sh screenshots` itself says
+// when a script draws no picture). A row is covered the moment it becomes
+// available.
+#include "tests/support/Kalhost.h"
 
 #include <QColor>
 #include <QImage>
@@ -16,40 +17,9 @@
 #include <map>
 #include <sstream>
 
-using kaltest::ProcessResult;
-using kaltest::RunProcess;
-using kaltest::TempDir;
+using namespace kaltest;
 
 namespace {
-
-ProcessResult Kalhost(const std::vector<std::string>& args, const std::string& input = {})
-{
-    return RunProcess(KALHOST_PATH, args, input);
-}
-
-std::vector<std::string> AvailableRows()
-{
-    std::vector<std::string> ids;
-    std::istringstream lines(Kalhost({"list"}).out);
-    for (std::string line; std::getline(lines, line);)
-        if (line.ends_with(" available") && !line.ends_with("not available"))
-            ids.push_back(line.substr(0, line.find(' ')));
-    return ids;
-}
-
-// The pages a user can turn to now.
-std::vector<int> ReachablePages(const std::string& id)
-{
-    std::vector<int> pages;
-    for (int page = 0; page < 20; ++page) {
-        const auto r = Kalhost({"open", id, "--actions", "-"}, "page " + std::to_string(page) + "\ncancel\n");
-        if (r.status == 1)
-            pages.push_back(page);
-        else if (r.err.find("no page") != std::string::npos || r.err.find("has no pages") != std::string::npos)
-            break;
-    }
-    return pages;
-}
 
 // A drawn page, not an empty frame: inside the tab control, away from its
 // edges, a good share of the pixels differs from the background, in
@@ -142,13 +112,11 @@ TEST(Gallery, EveryPageOfEveryAvailableDialogRendersWithoutAssertion)
     EXPECT_GE(pictures, 16);
 }
 
-TEST(Gallery, TheGalleryScriptsRunCleanlyAndHaveTheirPictures)
+TEST(Gallery, TheGalleryScriptsRunCleanly)
 {
     TempDir dir;
     const auto scripts = GalleryScripts();
     ASSERT_GE(scripts.size(), 16u);
-    std::ifstream md(std::string(KAL_SOURCE_DIR) + "/docs/gallery.md");
-    const std::string gallery((std::istreambuf_iterator<char>(md)), std::istreambuf_iterator<char>());
     for (const GalleryScript& script : scripts) {
         SCOPED_TRACE(script.name);
         ASSERT_FALSE(script.id.empty()) << "no open line";
@@ -159,9 +127,5 @@ TEST(Gallery, TheGalleryScriptsRunCleanlyAndHaveTheirPictures)
         EXPECT_EQ(r.status, 0) << r.err;
         EXPECT_EQ(r.err, "");
         EXPECT_EQ(Blankness(QImage(QString::fromStdString(file))), "");
-        // Drawn into the gallery: the picture is there and the page shows it.
-        EXPECT_TRUE(std::filesystem::exists(std::string(KAL_SOURCE_DIR) + "/docs/images/" + script.name + ".png"))
-            << "run ./dev.sh screenshots";
-        EXPECT_NE(gallery.find("(images/" + script.name + ".png)"), std::string::npos) << "run ./dev.sh screenshots";
     }
 }

@@ -4,52 +4,13 @@
 // again, and `commands` follows. No assertion report anywhere (and, in the
 // sanitizer build, no finding: kalhost would not exit normally). A row is
 // covered the moment it becomes available.
-#include "tests/support/Process.h"
+#include "tests/support/Kalhost.h"
 
 #include <gtest/gtest.h>
 
-#include <sstream>
-
-using kaltest::ProcessResult;
-using kaltest::RunProcess;
-using kaltest::TempDir;
+using namespace kaltest;
 
 namespace {
-
-ProcessResult Kalhost(const std::vector<std::string>& args, const std::string& input = {})
-{
-    return RunProcess(KALHOST_PATH, args, input);
-}
-
-// The ids `kalhost list` shows as available.
-std::vector<std::string> AvailableRows()
-{
-    const auto list = Kalhost({"list"});
-    std::vector<std::string> ids;
-    std::istringstream lines(list.out);
-    for (std::string line; std::getline(lines, line);)
-        if (line.ends_with(" available") && !line.ends_with("not available"))
-            ids.push_back(line.substr(0, line.find(' ')));
-    return ids;
-}
-
-// The pages a user can turn to: "page N" works for them. A dialog without
-// pages has the one page it is.
-std::vector<int> ReachablePages(const std::string& id)
-{
-    std::vector<int> pages;
-    for (int page = 0;; ++page) {
-        const auto r = Kalhost({"open", id, "--actions", "-"}, "page " + std::to_string(page) + "\ncancel\n");
-        if (r.status == 1) {
-            pages.push_back(page);
-            continue;
-        }
-        if (r.err.find("no page") != std::string::npos || r.err.find("has no pages") != std::string::npos)
-            break;
-        EXPECT_NE(r.err.find("not available"), std::string::npos) << "page " << page << ": " << r.err;
-    }
-    return pages;
-}
 
 void ExpectNoAssertion(const ProcessResult& r, const std::string& what)
 {

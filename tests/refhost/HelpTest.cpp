@@ -2,28 +2,17 @@
 // names the section of docs/commands.md that documents the analysis (the
 // heading that carries its command id, anchored as GitHub renders it) and
 // where that document is, and leaves the dialog as it was.
-#include "tests/support/Process.h"
+#include "tests/support/Kalhost.h"
 
 #include <gtest/gtest.h>
 
 #include <cctype>
 #include <fstream>
 #include <map>
-#include <sstream>
 
-using kaltest::RunProcess;
+using namespace kaltest;
 
 namespace {
-
-std::vector<std::string> AvailableRows()
-{
-    std::vector<std::string> ids;
-    std::istringstream lines(RunProcess(KALHOST_PATH, {"list"}).out);
-    for (std::string line; std::getline(lines, line);)
-        if (line.ends_with(" available") && !line.ends_with("not available"))
-            ids.push_back(line.substr(0, line.find(' ')));
-    return ids;
-}
 
 // A heading's anchor as GitHub makes it: lower case, punctuation dropped,
 // blanks turned into hyphens.
@@ -71,8 +60,8 @@ TEST(Help, EveryAvailableDialogNamesTheSectionOfItsAnalysis)
         ASSERT_TRUE(sections.count(id)) << "docs/commands.md has no section headed with (" << id << ")";
         // Help, then Help again from the keyboard's page: the dialog stays
         // open and unchanged, so OK writes what it would have written.
-        const auto plain = RunProcess(KALHOST_PATH, {"open", id, "--actions", "-"}, "ok\n");
-        const auto r = RunProcess(KALHOST_PATH, {"open", id, "--actions", "-"}, "click 9\nclick 9\nok\n");
+        const auto plain = Kalhost({"open", id, "--actions", "-"}, "ok\n");
+        const auto r = Kalhost({"open", id, "--actions", "-"}, "click 9\nclick 9\nok\n");
         EXPECT_EQ(r.status, 0) << r.err;
         EXPECT_EQ(r.out, plain.out);
         const std::string line = "kalhost: help for command " + id + ": commands.md#" + sections.at(id) + " (";

@@ -8,6 +8,7 @@
 // button, check box or radio button carries its own; Tab moves on in
 // template order.
 #include "refhost/Resources.h"
+#include "tests/support/Mnemonics.h"
 
 #include <gtest/gtest.h>
 
@@ -17,27 +18,11 @@
 #include <vector>
 
 using kalhost::ResourceTable;
+using namespace kaltest;
 
 namespace {
 
 constexpr UINT kTabDialogTemplate = 101;
-
-// The key of a caption's mnemonic, lower-cased; "&&" is a plain '&'.
-std::optional<char16_t> MnemonicOf(const CString& caption)
-{
-    const std::u16string& text = caption.Str();
-    for (std::size_t i = 0; i + 1 < text.size(); ++i) {
-        if (text[i] != u'&')
-            continue;
-        if (text[i + 1] == u'&') {
-            ++i;
-            continue;
-        }
-        const char16_t key = text[i + 1];
-        return key >= u'A' && key <= u'Z' ? static_cast<char16_t>(key - u'A' + u'a') : key;
-    }
-    return std::nullopt;
-}
 
 bool HasCaption(ControlKind kind)
 {
@@ -55,11 +40,6 @@ bool IsField(ControlKind kind)
     case ControlKind::Grid: return true;
     default: return false;
     }
-}
-
-bool IsDecoration(ControlKind kind)
-{
-    return kind == ControlKind::Static || kind == ControlKind::GroupBox;
 }
 
 // Keys other than mnemonics press these: Enter, Escape, F1.
@@ -108,14 +88,6 @@ std::vector<std::string> KeyboardProblems(const DialogTemplate& page, const Dial
             problems.push_back(where + "Alt+" + CString(std::u16string(1, key)).ToUtf8() + " is taken by " + list);
         }
 
-    // The control a label's mnemonic focuses.
-    const auto buddyOf = [&controls](std::size_t label) -> const ControlTemplate* {
-        for (std::size_t j = label + 1; j < controls.size(); ++j)
-            if (!IsDecoration(controls[j].kind))
-                return &controls[j];
-        return nullptr;
-    };
-
     std::vector<bool> reached(controls.size(), false);
     std::optional<std::size_t> previousInput;
     for (std::size_t i = 0; i < controls.size(); ++i) {
@@ -124,7 +96,7 @@ std::vector<std::string> KeyboardProblems(const DialogTemplate& page, const Dial
         if (c.kind == ControlKind::GroupBox && key)
             problems.push_back(where + Describe(c) + ": a group box's mnemonic has no control to focus");
         if (c.kind == ControlKind::Static) {
-            const ControlTemplate* buddy = buddyOf(i);
+            const ControlTemplate* buddy = BuddyOf(controls, i);
             if (key && (!buddy || !IsField(buddy->kind)))
                 problems.push_back(where + Describe(c) + ": its mnemonic focuses " +
                                    (buddy ? Describe(*buddy) : std::string("nothing")) + ", not a field it names");

@@ -1,6 +1,5 @@
 // Correlations settings: the measure line and the clauses the options and
-// resampling pages join to it, the record bytes, copies and the source
-// refresh.
+// resampling pages join to it, and the record bytes.
 #include "Source/DlgStat2.h"
 #include "private/Multivariate/KDGCorrelationsTabData.h"
 #include "tests/support/ArchiveBytes.h"
@@ -71,109 +70,23 @@ protected:
 
 } // namespace
 
-TEST_F(CorrelationsSettings, DefaultsWriteTheFirstMeasureAndKeepOneTrailingBlank)
+// What the dialog cannot set: a data type or an adjustment the resources do
+// not know writes no keyword; probabilities follow the Pearson choice of
+// continuous data whatever the data type.
+TEST_F(CorrelationsSettings, UnknownChoicesWriteNoKeywordAndProbabilitiesFollowThePearsonChoice)
 {
-    SetPage({.rows = {u"X", u"X2"}});
-    EXPECT_EQ(Commands(), (Lines16{u"CORR", u"PEARSON X X2 "}));
-}
-
-TEST_F(CorrelationsSettings, EachDataTypeReadsItsOwnListOfMeasures)
-{
-    tab.GetCorrOptionsData()->SetWindowState(0);
-    const std::array<int, 5> measures = {2, 2, 4, 1, 4};
-    const std::u16string keywords[] = {u"SSCP", u"MINKOWSKI", u"MU2", u"CRAMER", u"TANIMOTO"};
-    for (int type = 0; type < 5; ++type) {
-        SetPage({.rows = {u"X", u"Y"}, .dataType = type, .measures = measures});
-        EXPECT_EQ(Line(), keywords[type] + u" X Y");
-    }
-    // A data type the resources do not know has no keyword.
     SetPage({.rows = {u"X"}, .dataType = 7});
-    EXPECT_EQ(Line(), u" X");
-}
-
-TEST_F(CorrelationsSettings, TwoSetsCrossTheRowsWithTheColumns)
-{
-    SetPage({.rows = {u"X", u"X2"}, .columns = {u"Y", u"'odd'"}, .sets = 1});
-    EXPECT_EQ(Line(), u"PEARSON X X2*Y '''odd''' ");
-    SetPage({.rows = {u"X", u"X2"}, .columns = {u"Y"}, .sets = 0});
-    EXPECT_EQ(Line(), u"PEARSON X X2 ");
-}
-
-TEST_F(CorrelationsSettings, PairwiseDeletionFollowsTheDataTypeAndTheEstimation)
-{
-    SetPage({.rows = {u"X", u"Y"}, .deletion = 1});
-    EXPECT_EQ(Line(), u"PEARSON X Y / PAIRWISE");
-    SetOptions({.em = 1});
-    EXPECT_EQ(Line(), u"PEARSON X Y / EM NORMAL = 0, 0");
-    SetOptions({.hadi = 1});
-    EXPECT_EQ(Line(), u"PEARSON X Y / HADI");
-    // Choices of an options page out of use do not count.
     tab.GetCorrOptionsData()->SetWindowState(0);
-    SetPage({.rows = {u"X", u"Y"}, .deletion = 1, .measures = {1, 0, 0, 0, 0}});
-    EXPECT_EQ(Line(), u"COVARIANCE X Y / PAIRWISE");
+    EXPECT_EQ(Line(), u" X");
     tab.GetCorrOptionsData()->SetWindowState(1);
-
-    // Other data types write their deletion whatever the options say.
-    SetPage({.rows = {u"X", u"Y"}, .dataType = 2, .deletion = 1});
-    SetOptions({.em = 1});
-    EXPECT_EQ(Line(), u"SPEARMAN X Y / PAIRWISE / EM NORMAL = 0, 0");
-    SetOptions({.hadi = 1});
-    EXPECT_EQ(Line(), u"SPEARMAN X Y / PAIRWISE / HADI");
-    SetOptions({});
-    EXPECT_EQ(Line(), u"SPEARMAN X Y / PAIRWISE");
-}
-
-TEST_F(CorrelationsSettings, ProbabilitiesGoWithThePearsonChoiceWhateverTheDataType)
-{
-    const std::u16string corrections[] = {u" / BONF", u" / DUNN", u" / PROB", u" "};
-    for (int correction = 0; correction < 4; ++correction) {
-        SetPage({.rows = {u"X"}});
-        SetOptions({.probabilities = 1, .correction = correction == 3 ? 9 : correction});
-        EXPECT_EQ(Line(), u"PEARSON X" + corrections[correction]);
-    }
+    SetOptions({.probabilities = 1, .correction = 9});
+    SetPage({.rows = {u"X"}});
+    EXPECT_EQ(Line(), u"PEARSON X ");
     SetOptions({.probabilities = 1, .correction = 2});
-    SetPage({.rows = {u"X"}, .measures = {1, 0, 0, 0, 0}});
-    EXPECT_EQ(Line(), u"COVARIANCE X ");
     SetPage({.rows = {u"X"}, .dataType = 2, .measures = {0, 0, 1, 0, 0}});
     EXPECT_EQ(Line(), u"KENDALL X / PROB");
     SetPage({.rows = {u"X"}, .dataType = 2, .measures = {2, 0, 1, 0, 0}});
     EXPECT_EQ(Line(), u"KENDALL X ");
-}
-
-TEST_F(CorrelationsSettings, EmAndHadiClausesFollowTheirChoicesAndTheValueRules)
-{
-    SetPage({.rows = {u"X"}});
-    SetOptions({.em = 1, .normalFirst = Entered(0.1, 0), .normalSecond = Entered(3, 0)});
-    EXPECT_EQ(Line(), u"PEARSON X / EM NORMAL = 0.1, 3");
-    SetOptions({.em = 1, .distribution = 1});
-    EXPECT_EQ(Line(), u"PEARSON X / EM T");
-    SetOptions({.em = 1, .distribution = 1, .df = Entered(8, 5)});
-    EXPECT_EQ(Line(), u"PEARSON X / EM T = 8");
-    SetOptions({.em = 1,
-                .distribution = 1,
-                .iterations = CGUIData<int>(0, 50, 20, 0, 1),
-                .convergence = Entered(0.0001, 0.001)});
-    EXPECT_EQ(Line(), u"PEARSON X / EM T ITER = 50 CONV = 0.0001");
-    // An unknown distribution writes EM alone.
-    SetOptions({.em = 1, .distribution = 4, .df = Entered(8, 5)});
-    EXPECT_EQ(Line(), u"PEARSON X / EM");
-    SetOptions({.hadi = 1});
-    EXPECT_EQ(Line(), u"PEARSON X / HADI");
-    SetOptions({.hadi = 1, .tolerance = Entered(0.01, 0.0001)});
-    EXPECT_EQ(Line(), u"PEARSON X / HADI TOL = 0.01");
-    // Values without their switch write nothing.
-    SetOptions({.distribution = 1, .df = Entered(8, 5), .tolerance = Entered(0.01, 0.0001)});
-    EXPECT_EQ(Line(), u"PEARSON X ");
-
-    // Every option: the defaults are written too, except that the normal
-    // parameters are written as they always are.
-    host.writeEveryOption = true;
-    SetOptions({.em = 1, .distribution = 1});
-    EXPECT_EQ(Line(), u"PEARSON X / EM T = 5 ITER = 20 CONV = 0.001");
-    SetOptions({.em = 1});
-    EXPECT_EQ(Line(), u"PEARSON X / EM NORMAL = 0, 0 ITER = 20 CONV = 0.001");
-    SetOptions({.hadi = 1});
-    EXPECT_EQ(Line(), u"PEARSON X / HADI TOL = 0.0001");
 }
 
 TEST_F(CorrelationsSettings, TheSaveLineComesFirstAndPagesWithoutTheirTabWriteNoMeasureLine)
@@ -256,72 +169,4 @@ TEST_F(CorrelationsSettings, RecordBytesFollowTheStoredFieldOrder)
              DataRecord(1, 0, 0.001, 0.001), DataRecord(1, 0, 0.0001, 0.0001), DataRecord(1, 1, 0.0, 0.0),
              DataRecord(1, 1, 0.0, 0.0), DataRecord(0, 0, 5.0, 8.0)});
     EXPECT_EQ(Store([&](CArchive& ar) { options.Serialize(ar); }), optionBytes);
-
-    CCorrOptionsData back;
-    Load(optionBytes, [&](CArchive& ar) { back.Serialize(ar); });
-    EXPECT_EQ(Store([&](CArchive& ar) { back.Serialize(ar); }), optionBytes);
-}
-
-TEST_F(CorrelationsSettings, TheTabRecordReloadsEveryPageAndFailsCutShort)
-{
-    SetPage({.rows = {u"X", u"Y"},
-             .columns = {u"Z"},
-             .sets = 1,
-             .dataType = 2,
-             .deletion = 1,
-             .measures = {1, 0, 3, 0, 0},
-             .save = 1,
-             .file = u"r.kvd"});
-    SetOptions({.em = 1, .distribution = 1, .df = Entered(12, 5)});
-    tab.GetBootStrapData()->SetAll(CBootStrapData::methodBootstrap, CGUIData<int>(0, 99, 1000, 0, 1), CGUIData<int>(0),
-                                   CGUIData<unsigned int>(5u));
-    EXPECT_EQ(Line(), u"GOODMAN X Y*Z / PAIRWISE / EM T = 12 SAMPLE = BOOT(99) RSEED = 5");
-
-    for (const UINT schema : {UINT{CArchive::plainLists}, UINT{CArchive::namedLists}}) {
-        const Bytes bytes = Store([&](CArchive& ar) { tab.Serialize(ar); }, schema);
-        CCorrelationsTabData back;
-        Load(bytes, schema, [&](CArchive& ar) { back.Serialize(ar); });
-        CLIST<CCmdInfo> list;
-        back.GetCommandInfoList(list);
-        if (schema == CArchive::namedLists)
-            EXPECT_EQ(Lines(list), Commands());
-        else // counts, not names, come back
-            EXPECT_EQ(Lines(list).back(), u"GOODMAN * / PAIRWISE / EM T = 12 SAMPLE = BOOT(99) RSEED = 5");
-        const Bytes cut(bytes.begin(), bytes.end() - 5);
-        CCorrelationsTabData broken;
-        EXPECT_THROW(Load(cut, schema, [&](CArchive& ar) { broken.Serialize(ar); }), CArchiveException);
-    }
-}
-
-TEST(CorrelationsSource, FillsFromTheSheetAndDropsVariablesItNoLongerHas)
-{
-    FakeHost host;
-    IModule* module = GetModuleFactory(&host);
-    host.SetVariables({u"X", u"Y", u"S$"});
-    CCorrelationsTabData tab;
-    Set(*tab.GetCorrelationsData(), {.rows = {u"gone", u"Y"}, .columns = {u"S$", u"old"}});
-    tab.FillListSource();
-    CGUIArray<CGUIDataVariable> source, rows, columns;
-    int i[9];
-    CString file;
-    const auto read = [&] {
-        tab.GetCorrelationsData()->GetAll(source, rows, columns, i[0], i[1], i[2], i[3], i[4], i[5], i[6], i[7], i[8],
-                                          file);
-    };
-    read();
-    ASSERT_EQ(source.GetSize(), 3);
-    EXPECT_EQ(source[2].GetVariableType(), NmsEnum::VT_STRING);
-    ASSERT_EQ(rows.GetSize(), 1);
-    EXPECT_EQ(rows[0].GetVariableName(), CString(u"Y"));
-    ASSERT_EQ(columns.GetSize(), 1);
-    EXPECT_EQ(columns[0].GetVariableName(), CString(u"S$"));
-
-    // Without a valid sheet the choices stay as they are.
-    host.sheet.valid = false;
-    Set(*tab.GetCorrelationsData(), {.rows = {u"gone"}});
-    tab.FillListSource();
-    read();
-    EXPECT_EQ(rows.GetSize(), 1);
-    EXPECT_EQ(source.GetSize(), 0);
-    module->Release();
 }

@@ -4,24 +4,14 @@
 #include "private/Quality/KDGXMrTabData.h"
 #include "refhost/HostGlobal.h"
 #include "tests/support/FakeHost.h"
-#include "tests/support/Process.h"
+#include "tests/support/Kalhost.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
-using kaltest::ProcessResult;
-using kaltest::RunProcess;
+using kaltest::Kalhost;
 using kaltest::TempDir;
-
-namespace {
-
-ProcessResult Kalhost(const std::vector<std::string>& args, const std::string& input = {})
-{
-    return RunProcess(KALHOST_PATH, args, input);
-}
-
-} // namespace
 
 TEST(ChartSession, ChoicesSurviveARestartButTheKnownCenterIsInUseForTheSessionOnly)
 {
@@ -31,15 +21,16 @@ TEST(ChartSession, ChoicesSurviveARestartButTheKnownCenterIsInUseForTheSessionOn
                                "open 2041\n"
                                "select 4386 T1 T2\nclick 4367\nselect 4386 A B\nclick 4366\n"
                                "choose 4370 5\nselect 4386 W\nclick 4365\ncheck 4396 1\ncheck 4398 1\n"
-                               "click 4376\ntype 4377 12.5\npage 1\ncheck 3981 0\nok\n"
+                               "click 4376\ntype 4375\ntype 4377 12.5\npage 1\ncheck 3981 0\nok\n"
                                "open 2043\nselect 5431 Y\nclick 5433\ntype 5441 1.25\nclick 5437\n"
                                "page 1\ncheck 3984 0\nok\n");
     ASSERT_EQ(first.status, 0) << first.err;
     EXPECT_EQ(first.out, "QC\nWEIGHT  W\nSHEWHART T1 T2*A B / TYPE=NP LIMITS=,12.5 AGG TOTAL  TEST = 1 2 3 5 6 7 8 \n"
-                         "QC\nXMR   Y /   SIGMA = 1.25 MEDIAN   TEST = 0 \n");
+                         "QC\nXMR   Y /   SIGMA = 1.25 PLIMITS=0,0 MEDIAN   TEST = 0 \n");
     EXPECT_EQ(Kalhost({"--store", store, "commands", "2041"}).out,
               "QC\nWEIGHT  W\nSHEWHART T1 T2*A B / TYPE=NP LIMITS=,12.5 AGG TOTAL  TEST = 1 2 3 5 6 7 8 \n");
-    EXPECT_EQ(Kalhost({"--store", store, "commands", "2043"}).out, "QC\nXMR   Y /   SIGMA = 1.25 MEDIAN   TEST = 0 \n");
+    EXPECT_EQ(Kalhost({"--store", store, "commands", "2043"}).out,
+              "QC\nXMR   Y /   SIGMA = 1.25 PLIMITS=0,0 MEDIAN   TEST = 0 \n");
 
     // Whether the known center is in use belongs to the page, not to the
     // record: after a restart its check is clear and its value is kept.
@@ -63,7 +54,7 @@ TEST(ChartSession, TheChartLinesMakeQcTheCurrentModule)
         host.SetCurrentCommandModule(u"ANOVA");
         host.RegisterSettings(2043, new CXMrTabData);
         host.RunCommand(2043, {});
-        EXPECT_EQ(out.str(), "QC\nXMR    /  MEAN \n");
+        EXPECT_EQ(out.str(), "QC\nXMR    /  PLIMITS=0,0 MEAN \n");
         EXPECT_EQ(host.GetCurrentCommandModule(), CString(u"QC"));
     }
     KalUseRes::SetGlobalResourceHandle(nullptr);
