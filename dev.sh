@@ -108,16 +108,23 @@ TEXT
         title=$(sed -n "s/^## \(.*($id).*\)$/\1/p" docs/commands.md | head -n 1)
         if [ -z "$title" ]; then
             printf '\n## %s (%s)\n' "$class" "$id" >>"$md"
-        elif ! grep -qF "## [$title]" "$md"; then
+        elif [ "$(grep '^## ' "$md" | tail -n 1)" != "## [$title](commands.md#$(anchor "$title"))" ]; then
+            # A section shared by commands of two menus comes again where
+            # the second one is listed.
             printf '\n## [%s](commands.md#%s)\n' "$title" "$(anchor "$title")" >>"$md"
         fi
         # Dialogs that share a section: each under its menu entry's name.
         if [ "$(grep -c "^## .*($id)" docs/commands.md)" -eq 1 ] && [ "$(grep -o '([0-9]*)' <<<"$title" | wc -l)" -gt 1 ]; then
             printf '\n### %s (%s)\n' "$(menu_text "$id")" "$id" >>"$md"
         fi
+        local single
         for page in $(seq 0 20); do
+            single=0
             printf 'page %d\ncancel\n' "$page" | "$k" open "$id" --actions - >/dev/null 2>"$work/err" || true
-            if grep -q "no page\|has no pages" "$work/err"; then
+            # A dialog without pages is drawn once, as its one page.
+            if [ "$page" -eq 0 ] && grep -q "has no pages" "$work/err"; then
+                single=1
+            elif grep -q "no page\|has no pages" "$work/err"; then
                 break
             fi
             # A page out of use as the dialog opens is drawn by the scripts
@@ -137,9 +144,14 @@ TEXT
             if [ "$drawn" -eq 0 ] && [ "$available" -eq 1 ]; then
                 name="$(echo "$class" | sed 's/^C//; s/TabDlg$//; s/Dlg$//' | tr '[:upper:]' '[:lower:]')-page-$((page + 1))"
                 echo "note: no script in docs/gallery draws page $page of command $id; drawn as it opens" >&2
-                printf 'page %d\n' "$page" | render "$name" "$id" ""
+                if [ "$single" -eq 1 ]; then
+                    render "$name" "$id" "" </dev/null
+                else
+                    printf 'page %d\n' "$page" | render "$name" "$id" ""
+                fi
                 printf '\n![Page %d](images/%s.png)\n' "$((page + 1))" "$name" >>"$md"
             fi
+            [ "$single" -eq 0 ] || break
         done
     done
     cp "$md" docs/gallery.md

@@ -2,13 +2,15 @@
 
 #include "Msg/LaunchDialog.h"
 #include "private/Anova/KDGAnovaTabDlg.h"
+#include "private/Anova/KDGHypothesisTabDlg.h"
+#include "private/Anova/KDGPairwiseTabDlg.h"
 
 namespace {
 
 const MenuCommandRow kRows[] = {
     KAL_MENU_ROW(2008, CAnovaTabDlg, CAnovaTabData, 2023, 2022, 2263),
-    KAL_MENU_ROW_UNAVAILABLE(2009, CAnovaTestTabDlg, CAnovaTestTabData, 2026),
-    KAL_MENU_ROW_UNAVAILABLE(2077, CPairwiseTabDlg, CPairwiseTabData),
+    KAL_MENU_ROW(2009, CAnovaTestTabDlg, CAnovaTestTabData, 2026),
+    KAL_MENU_ROW(2077, CPairwiseTabDlg, CPairwiseTabData),
 };
 
 } // namespace

@@ -1,12 +1,17 @@
 #include "Msg/GeneralLinearModelMsg.h"
 
+#include "Msg/LaunchDialog.h"
+#include "private/Anova/KDGGLMTabDlg.h"
+#include "private/Anova/KDGHypothesisTabDlg.h"
+#include "private/Anova/KDGPairwiseTabDlg.h"
+
 namespace {
 
 const MenuCommandRow kRows[] = {
-    KAL_MENU_ROW_UNAVAILABLE(2010, CGLMTabDlg, CGLMTabData, 2100),
+    KAL_MENU_ROW(2010, CGLMTabDlg, CGLMTabData, 2100),
     KAL_MENU_ROW_UNAVAILABLE(2011, CHypPairwiseDlg, CHypPairwiseData),
-    KAL_MENU_ROW_UNAVAILABLE(2012, CPairwiseTabDlg, CPairwiseTabData),
-    KAL_MENU_ROW_UNAVAILABLE(2013, CHypothesisTabDlg, CHypothesisTabData, 2105),
+    KAL_MENU_ROW(2012, CPairwiseTabDlg, CPairwiseTabData),
+    KAL_MENU_ROW(2013, CHypothesisTabDlg, CHypothesisTabData, 2105),
 };
 
 } // namespace

@@ -85,10 +85,14 @@ bool ConfirmDialog(IGlobal* global, UINT id, const MenuCommandRow& row, const CG
     settings.ReassignDefaultValue();
     settings.SetstrDialog(id);
 
+    // The caller's driver comes back however the run ends: a page refuses
+    // stored values it cannot show by throwing.
     CConfirmDriver confirm;
-    CDialogDriver* previous = AfxSetDialogDriver(&confirm);
+    struct DriverRestore {
+        CDialogDriver* previous;
+        ~DriverRestore() { AfxSetDialogDriver(previous); }
+    } restore{AfxSetDialogDriver(&confirm)};
     const INT_PTR result = dialog.DoModal();
-    AfxSetDialogDriver(previous);
     if (result != IDOK)
         return false;
     settings.GetCommandInfoList(lines);

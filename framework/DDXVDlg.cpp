@@ -7,32 +7,42 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <type_traits>
 
 IMPLEMENT_DYNAMIC(CDDXVDlg, CDialog)
 
 namespace {
 
-enum class Parsed { ok, notANumber, outOfRange };
-
-// Whole-text numbers, the host's decimal separator accepted beside '.'. A
-// number of the right form that the holder's type cannot hold is out of
-// range, not malformed.
+// The number grammar of every edit: blanks around it; one sign, + or -;
+// digits with one decimal separator (the host's, or '.') and an exponent
+// (e or E, a sign, digits) for numbers that need not be whole; nothing else.
+// A number too small to tell from zero is zero (-0 too); one too large for
+// its holder cannot be read, like any text that is not a number.
 template <class T>
-Parsed Parse(CString text, T& value)
+bool Parse(CString text, T& value)
 {
     text.Trim();
     const char16_t separator = kal::framework::DecimalSeparator();
     if (separator != u'.')
         text.Replace(std::u16string_view(&separator, 1), u".");
     const std::string s = text.ToUtf8();
-    if (s.empty() || s[0] == '+')
-        return Parsed::notANumber;
-    const auto [end, error] = std::from_chars(s.data(), s.data() + s.size(), value);
-    if (end != s.data() + s.size())
-        return Parsed::notANumber;
-    if (error == std::errc::result_out_of_range)
-        return Parsed::outOfRange;
-    return error == std::errc() ? Parsed::ok : Parsed::notANumber;
+    const bool plus = !s.empty() && s[0] == '+';
+    const char* first = s.data() + (plus ? 1 : 0);
+    const char* const last = s.data() + s.size();
+    if (first == last || *first == '+' || (plus && *first == '-'))
+        return false;
+    auto result = std::from_chars(first, last, value);
+    if constexpr (std::is_floating_point_v<T>) {
+        if (result.ec == std::errc::result_out_of_range) {
+            // Read wider: underflow goes to zero, overflow stays unreadable.
+            long double wide = 0;
+            result = std::from_chars(first, last, wide);
+            value = static_cast<T>(wide);
+        }
+        if (value == 0)
+            value = 0;
+    }
+    return result.ptr == last && result.ec == std::errc();
 }
 
 bool IsFinite(double v)
@@ -49,8 +59,7 @@ bool IsFinite(T)
 } // namespace
 
 template <class T>
-void CDDXVDlg::ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, UINT messageId,
-                              const NumberRule* rule)
+void CDDXVDlg::ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, UINT messageId, const NumberRule* rule)
 {
     CWnd* control = pDX->PrepareCtrl(id);
     if (!control)
@@ -60,10 +69,8 @@ void CDDXVDlg::ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, U
         return;
     }
     T parsed{};
-    const Parsed result = Parse(control->GetWindowText(), parsed);
-    if (result != Parsed::ok || !IsFinite(parsed))
-        pDX->FailEntry(id, result == Parsed::outOfRange ? kMsgOutOfRange : messageId,
-                       rule ? *rule : NumberRule{std::is_integral_v<T>});
+    if (!Parse(control->GetWindowText(), parsed) || !IsFinite(parsed))
+        pDX->FailEntry(id, messageId, rule ? *rule : NumberRule{std::is_integral_v<T>});
     value.m_Value = parsed;
     value.m_nState = value.m_Value == value.m_DefaultValue ? 1 : 0;
 }
@@ -72,7 +79,7 @@ template <class T>
 bool CDDXVDlg::ReadNumber(const CWnd& control, CGUIData<T>& value)
 {
     T parsed{};
-    if (Parse(control.GetWindowText(), parsed) != Parsed::ok || !IsFinite(parsed))
+    if (!Parse(control.GetWindowText(), parsed) || !IsFinite(parsed))
         return false;
     value.m_Value = parsed;
     value.m_nState = value.m_Value == value.m_DefaultValue ? 1 : 0;
@@ -94,8 +101,7 @@ bool CDDXVDlg::ReadKVText(const CWnd& control, CGUIData<double>& value)
     return ReadNumber(control, value);
 }
 
-void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<int>& value, UINT messageId,
-                          const NumberRule* rule)
+void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<int>& value, UINT messageId, const NumberRule* rule)
 {
     ExchangeNumber(pDX, id, value, messageId, rule);
 }
@@ -106,8 +112,7 @@ void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<unsigned int>& v
     ExchangeNumber(pDX, id, value, messageId, rule);
 }
 
-void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<double>& value, UINT messageId,
-                          const NumberRule* rule)
+void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<double>& value, UINT messageId, const NumberRule* rule)
 {
     ExchangeNumber(pDX, id, value, messageId, rule);
 }

@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <limits>
+#include <sstream>
 #include <type_traits>
 #include <unordered_set>
 
@@ -746,6 +747,107 @@ void CGUIBaseDlg::ExchangeField(CDataExchange* pDX, const CFieldExchange& field,
 {
     DDX_Control(pDX, field.control, ListCtrl(field.control));
     DDX_ListCtrlArray(pDX, field.control, value, 0, 1, 0);
+}
+
+// --- Stored values against their controls -----------------------------------------
+
+namespace {
+
+[[noreturn]] void RefuseField(UINT control, const std::string& what, double value)
+{
+    std::ostringstream shown;
+    shown << value;
+    throw kal::CFieldValueException("holds a value its dialog cannot show: control " + std::to_string(control) + ", " +
+                                    what + ", is " + shown.str());
+}
+
+// A holder's state says whether its value is its default: yes or no. (Its
+// flags are the analyses' own marks, with values of their choosing.)
+template <class T>
+void CheckHolderState(UINT control, const CGUIData<T>& value)
+{
+    if (value.m_nState != 0 && value.m_nState != 1)
+        RefuseField(control, "a value whose state is 0 or 1", value.m_nState);
+}
+
+template <class T>
+void CheckNumberHolder(const CFieldExchange& field, const CGUIData<T>& value)
+{
+    CheckHolderState(field.control, value);
+    // The value itself is not judged. An emptied bound holds no number
+    // (NaN); and a page lets a value outside its range stand while its edit
+    // is out of use, so a stored one may be the user's own (the page's OK
+    // refuses it when the edit is in use).
+}
+
+} // namespace
+
+void CGUIBaseDlg::CheckField(const CFieldExchange& field, int value) const
+{
+    const CWnd* control = GetDlgItem(field.control);
+    if (!control)
+        return;
+    switch (control->GetKind()) {
+    case ControlKind::RadioButton: {
+        const auto buttons = static_cast<int>(GetRadioGroup(control).size());
+        if (value < 0 || value >= buttons)
+            RefuseField(field.control, "a group of " + std::to_string(buttons) + " radio buttons counted from 0",
+                        value);
+        break;
+    }
+    case ControlKind::ComboBox: {
+        // No selection (-1) is a state a list may be in; a list not filled
+        // yet cannot judge.
+        const auto* combo = dynamic_cast<const CComboBox*>(control);
+        const int entries = combo ? combo->GetCount() : 0;
+        if (entries > 0 && (value < -1 || value >= entries))
+            RefuseField(field.control, "a list of " + std::to_string(entries) + " entries counted from 0", value);
+        break;
+    }
+    case ControlKind::CheckBox:
+        if (value != 0 && value != 1)
+            RefuseField(field.control, "a check box that is 0 or 1", value);
+        break;
+    default: break;
+    }
+}
+
+void CGUIBaseDlg::CheckField(const CFieldExchange& field, const CGUIData<int>& value) const
+{
+    if (GetDlgItem(field.control))
+        CheckNumberHolder(field, value);
+}
+
+void CGUIBaseDlg::CheckField(const CFieldExchange& field, const CGUIData<unsigned int>& value) const
+{
+    if (GetDlgItem(field.control))
+        CheckNumberHolder(field, value);
+}
+
+void CGUIBaseDlg::CheckField(const CFieldExchange& field, const CGUIData<double>& value) const
+{
+    if (GetDlgItem(field.control))
+        CheckNumberHolder(field, value);
+}
+
+void CGUIBaseDlg::CheckField(const CFieldExchange& field, const CGUIDataWnd<int>& value) const
+{
+    if (!GetDlgItem(field.control))
+        return;
+    CheckField(field, value.m_Value);
+    if (value.m_nWindowState != 0 && value.m_nWindowState != 1)
+        RefuseField(field.control, "an enable state that is 0 or 1", value.m_nWindowState);
+}
+
+void CGUIBaseDlg::CheckField(const CFieldExchange& field, const CGUIArray<CGUIDataVariable>& value) const
+{
+    if (!GetDlgItem(field.control))
+        return;
+    for (int i = 0; i < value.GetSize(); ++i) {
+        const auto type = value[i].GetVariableType();
+        if (type != NmsEnum::VT_UNKNOWN && type != NmsEnum::VT_NUMERIC && type != NmsEnum::VT_STRING)
+            RefuseField(field.control, "a list whose variables are numeric (1) or strings (3)", type);
+    }
 }
 
 // --- Tab pages ------------------------------------------------------------------

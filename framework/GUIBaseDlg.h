@@ -63,6 +63,25 @@ struct CFieldExchange {
     UINT requiredBy = 0;   // a check box that makes the text necessary
 };
 
+namespace kal {
+
+// A value of a settings object that its page cannot show: a radio index
+// past its group, a combo entry past its list, a check box that is neither
+// 0 nor 1, a value whose state is neither 0 nor 1, a variable of no known
+// type.
+// Settings handed to a page come from an earlier OK of the page, so such a
+// value can only come from a damaged or forged record, which is not used.
+class CFieldValueException : public CException {
+public:
+    explicit CFieldValueException(std::string what) : m_what(std::move(what)) {}
+    const char* what() const noexcept override { return m_what.c_str(); }
+
+private:
+    std::string m_what;
+};
+
+} // namespace kal
+
 // Messages of the text checks every page shares.
 inline constexpr UINT kMsgTextRequired = 2015;
 inline constexpr UINT kMsgControlCharacter = 2016;
@@ -263,6 +282,14 @@ protected:
     void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIData<double>& value);
     void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIDataWnd<int>& value);
     void ExchangeField(CDataExchange* pDX, const CFieldExchange& field, CGUIArray<CGUIDataVariable>& value);
+    // Refuses, with kal::CFieldValueException, a value the field's control
+    // cannot show; fields whose control this page lacks are not judged.
+    void CheckField(const CFieldExchange& field, int value) const;
+    void CheckField(const CFieldExchange& field, const CGUIData<int>& value) const;
+    void CheckField(const CFieldExchange& field, const CGUIData<unsigned int>& value) const;
+    void CheckField(const CFieldExchange& field, const CGUIData<double>& value) const;
+    void CheckField(const CFieldExchange& field, const CGUIDataWnd<int>& value) const;
+    void CheckField(const CFieldExchange& field, const CGUIArray<CGUIDataVariable>& value) const;
     // The file edit control `id` of this page (made on first use).
     CFileEditCtrl& FileEditCtrl(UINT id);
 

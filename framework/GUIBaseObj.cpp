@@ -27,7 +27,7 @@ constexpr bool IsDigit(char16_t ch)
 enum : unsigned char { kWordUnit = 1, kControlUnit = 2, kQuoteUnit = 4 };
 
 constexpr auto kUnitClass = [] {
-    std::array<unsigned char, 128> table{};
+    std::array<unsigned char, 129> table{}; // [128]: any unit beyond ASCII
     for (char16_t ch = 0; ch < 128; ++ch) {
         if (IsAsciiLetter(ch) || IsDigit(ch) || ch == u'_' || ch == u'.')
             table[ch] = kWordUnit;
@@ -45,19 +45,26 @@ struct NameScan {
     bool plain = false;   // a plain identifier: written as it is
 };
 
-// Inline: it runs once per name of a line.
-inline NameScan ScanName(std::u16string_view name)
+// Scans `name` and hands each unit to `unit` on the way, so that a line
+// can copy a name in the same pass that decides how to write it. Inline:
+// it runs once per name of a line.
+template <class Unit>
+inline NameScan ScanName(std::u16string_view name, Unit unit)
 {
     // A final '$' may follow a plain identifier; it is neither a control
     // character nor a quote, so the scan can stop before it.
     const std::size_t body = name.size() - (!name.empty() && name.back() == u'$' ? 1 : 0);
     unsigned all = kWordUnit;
     unsigned any = 0;
-    for (const char16_t ch : name.substr(0, body)) {
-        const unsigned unit = ch < 128 ? kUnitClass[ch] : 0;
-        all &= unit;
-        any |= unit;
+    for (std::size_t i = 0; i < body; ++i) {
+        const char16_t ch = name[i];
+        unit(i, ch);
+        const unsigned kind = kUnitClass[std::min<unsigned>(ch, 128)];
+        all &= kind;
+        any |= kind;
     }
+    if (body < name.size())
+        unit(body, name[body]);
     NameScan scan;
     scan.control = any & kControlUnit;
     scan.quote = any & kQuoteUnit;
@@ -65,21 +72,54 @@ inline NameScan ScanName(std::u16string_view name)
     return scan;
 }
 
-// Appends `name` in single quotes, its own quotes doubled.
-void AppendQuoted(std::u16string& text, std::u16string_view name, bool quote)
+inline NameScan ScanName(std::u16string_view name)
 {
-    text += u'\'';
-    if (!quote) {
-        text += name;
-    } else {
-        for (const char16_t ch : name) {
-            text += ch;
-            if (ch == u'\'')
-                text += ch;
-        }
-    }
-    text += u'\'';
+    return ScanName(name, [](std::size_t, char16_t) {});
 }
+
+// Writes `name` in single quotes at `out`, its own quotes doubled; the end
+// of what it wrote.
+char16_t* WriteQuoted(char16_t* out, std::u16string_view name, bool quote)
+{
+    *out++ = u'\'';
+    for (const char16_t ch : name) {
+        *out++ = ch;
+        if (quote && ch == u'\'')
+            *out++ = ch;
+    }
+    *out++ = u'\'';
+    return out;
+}
+
+// A line written unit by unit into a string: room is asked for before each
+// piece, so that a piece is copied by plain stores and not by an append
+// call per name. The string grows by a stretch at a time within its
+// reserved capacity (the stretch is filled while still in cache), and by
+// doubling beyond it.
+class LineWriter {
+public:
+    explicit LineWriter(std::u16string text) : m_text(std::move(text)), m_used(m_text.size()) {}
+
+    // Room for at least `units` more units at the end.
+    char16_t* Room(std::size_t units)
+    {
+        if (m_used + units > m_text.size())
+            m_text.resize(std::max(m_used + units, m_text.size() + kStretch));
+        return m_text.data() + m_used;
+    }
+    // What was written into the room ends at `end`.
+    void Commit(const char16_t* end) { m_used = static_cast<std::size_t>(end - m_text.data()); }
+    std::u16string Finish() &&
+    {
+        m_text.resize(m_used);
+        return std::move(m_text);
+    }
+
+private:
+    static constexpr std::size_t kStretch = std::size_t{1} << 14;
+    std::u16string m_text;
+    std::size_t m_used;
+};
 
 // A text as a report shows it: control characters as escapes, so that the
 // report stays one line.
@@ -100,6 +140,21 @@ std::string Shown(const CString& text)
             visible += ch;
     }
     return visible.ToUtf8();
+}
+
+// Keeps the first entry of each name: a source naming a variable twice
+// lists it once.
+void ListEachNameOnce(CGUIArray<CGUIDataVariable>& list)
+{
+    const auto nameOf = [&list](int i) -> std::u16string_view { return list[i].GetVariableName().Str(); };
+    CTextIndex names;
+    const int count = list.GetSize();
+    if (names.Build(count, nameOf) == count)
+        return;
+    std::vector<bool> repeated(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        repeated[static_cast<std::size_t>(i)] = names.Find(nameOf(i), nameOf) != i;
+    list.RemoveMarked(repeated);
 }
 
 } // namespace
@@ -144,19 +199,10 @@ void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUI
     // for the first time, and a list that already matches (a dialog opened
     // again).
     if (target->IsEmpty()) {
-        if (!bAdd)
-            return;
-        *target = *source;
-        CTextIndex names;
-        const int count = target->GetSize();
-        if (names.Build(count, nameOf(*target)) == count)
-            return;
-        // A source naming a variable twice lists it once.
-        std::vector<bool> repeated(static_cast<std::size_t>(count));
-        for (int i = 0; i < count; ++i)
-            repeated[static_cast<std::size_t>(i)] =
-                names.Find((*target)[i].GetVariableName().Str(), nameOf(*target)) != i;
-        target->RemoveMarked(repeated);
+        if (bAdd) {
+            *target = *source;
+            ListEachNameOnce(*target);
+        }
         return;
     }
     if (CompareTwoListCtrlArrays(*target, *source))
@@ -180,6 +226,16 @@ void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUI
                 inSource.Find((*source)[i].GetVariableName().Str(), nameOf(*source)) == i)
                 updated.Add((*source)[i]); // once, however often the source names it
     *target = std::move(updated);
+}
+
+void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, CGUIArray<CGUIDataVariable>&& source, int bAdd)
+{
+    if (target && target != &source && target->IsEmpty() && bAdd) {
+        *target = std::move(source);
+        ListEachNameOnce(*target);
+        return;
+    }
+    UpdateCtrlList(target, &source, bAdd);
 }
 
 void CGUIBaseObj::FillListSource() {}
@@ -365,9 +421,8 @@ CString CGUIBaseObj::QuoteName(const CString& name)
     const NameScan scan = ScanName(name);
     if (scan.plain)
         return name;
-    std::u16string quoted;
-    quoted.reserve(static_cast<std::size_t>(name.GetLength()) + 2);
-    AppendQuoted(quoted, name, scan.quote);
+    std::u16string quoted(2 * static_cast<std::size_t>(name.GetLength()) + 2, u'\0');
+    quoted.resize(static_cast<std::size_t>(WriteQuoted(quoted.data(), name, scan.quote) - quoted.data()));
     return CString(std::move(quoted));
 }
 
@@ -375,10 +430,10 @@ void CGUIBaseObj::AddVariables(CString& line, const CGUIArray<CGUIDataVariable>&
 {
     if (list.IsEmpty())
         return;
-    // The line is built on as a plain string and put back. Its room: every
-    // name quoted and as long as the longest of a few spread over the list
-    // (names of a sheet tend to be alike, numbered ones longest at the end);
-    // a line that needs more grows by doubling.
+    // The line's capacity: every name quoted and as long as the longest of
+    // a few spread over the list (names of a sheet tend to be alike,
+    // numbered ones longest at the end); a line that needs more grows by
+    // doubling.
     const std::u16string_view joiner = separator;
     const std::size_t count = static_cast<std::size_t>(list.GetSize());
     constexpr std::size_t kSamples = 8;
@@ -389,12 +444,20 @@ void CGUIBaseObj::AddVariables(CString& line, const CGUIArray<CGUIDataVariable>&
     }
     std::u16string text = line.TakeText();
     text.reserve(text.size() + (longest + 2 + joiner.size()) * count);
+    LineWriter out(std::move(text));
     bool first = true;
     for (const auto& v : list) {
         const std::u16string_view name = v.GetVariableName();
         if (name.empty())
             continue; // an entry whose name was not stored names no variable
-        const NameScan scan = ScanName(name);
+        // Room for the name at its longest: quoted, every unit a quote.
+        char16_t* at = out.Room(joiner.size() + 2 * name.size() + 2);
+        if (!first) {
+            for (const char16_t ch : joiner)
+                *at++ = ch;
+        }
+        // Copied as it is while scanning: most names are plain.
+        const NameScan scan = ScanName(name, [at](std::size_t i, char16_t ch) { at[i] = ch; });
         if (scan.control) {
             // Such a name could start a second command line: leave it out.
             CKalAssertDlg("framework/GUIBaseObj", __LINE__,
@@ -403,15 +466,10 @@ void CGUIBaseObj::AddVariables(CString& line, const CGUIArray<CGUIDataVariable>&
                 .DoPrint();
             continue;
         }
-        if (!first)
-            text += joiner;
+        out.Commit(scan.plain ? at + name.size() : WriteQuoted(at, name, scan.quote));
         first = false;
-        if (scan.plain)
-            text += name;
-        else
-            AppendQuoted(text, name, scan.quote);
     }
-    line = CString(std::move(text));
+    line = CString(std::move(out).Finish());
 }
 
 CString CGUIBaseObj::GetMixedDataVariable(const CGUIArray<CGUIDataVariable>& list, const CString& joiner) const

@@ -46,6 +46,10 @@ public:
     // entries of `source` it lacks, in `source` order. Linear in both sizes.
     virtual void UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUIArray<CGUIDataVariable>* source,
                                 int bAdd);
+    // The same with a source that is given away: an empty target takes its
+    // entries instead of copies (a million variables' names are then not
+    // counted up once and down again).
+    void UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, CGUIArray<CGUIDataVariable>&& source, int bAdd);
     virtual void FillListSource();
     virtual void SetEditAttribute();
     virtual void GetParent(CGUIBaseObj*& parent) const;

@@ -3,7 +3,8 @@
 // from the settings' field table what every page used to spell out:
 //
 //  - GetAll / SetAll: the settings' own GetAll / SetAll over the working
-//    copy's fields, in member order;
+//    copy's fields, in member order; what GetAll takes is held against the
+//    controls (CheckField), so that a value the page cannot show is refused;
 //  - GetAllDefault: the working copy back to the defaults, source lists kept;
 //    SetAllDefault: the settings' fields back to the defaults;
 //  - DoDataExchange: each field with a control, by the control's kind, with
@@ -25,7 +26,10 @@ public:
     {
         if (!this->m_pData)
             return 0;
-        return kal::WithFields(m_Work, [this](auto&... fields) { return this->m_pData->GetAll(fields...); });
+        const int result =
+            kal::WithFields(m_Work, [this](auto&... fields) { return this->m_pData->GetAll(fields...); });
+        CheckWork();
+        return result;
     }
     int SetAll() override
     {
@@ -58,6 +62,18 @@ public:
     }
 
 protected:
+    void CheckWork() const
+    {
+        kal::ForEachField<TData>([&](const auto& field) {
+            if constexpr (requires { this->CheckField(CFieldExchange{}, m_Work.*field.member); }) {
+                if (field.control != 0)
+                    this->CheckField(
+                        {field.control, field.flags, field.min, field.max, field.rangeMessage, field.requiredBy},
+                        m_Work.*field.member);
+            }
+        });
+    }
+
     // The values the page shows, in the settings' member order.
     TData m_Work;
 };

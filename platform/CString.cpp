@@ -303,6 +303,8 @@ CString CString::FromNumber(double value, char16_t decimalSeparator)
     // std::to_chars is locale-independent (a GUI toolkit may have changed
     // LC_NUMERIC), and its general format with precision 6 is exactly %g.
     char buffer[64];
+    if (value == 0)
+        value = 0; // a negative zero is written as 0
     const auto result = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 6);
     CString text = FromLatin1(std::string_view(buffer, static_cast<std::size_t>(result.ptr - buffer)));
     if (decimalSeparator != u'.')

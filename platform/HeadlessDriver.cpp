@@ -2,6 +2,7 @@
 
 #include "platform/UserInput.h"
 
+#include <algorithm>
 #include <unordered_map>
 
 namespace {
@@ -147,9 +148,23 @@ bool CHeadlessSession::Drag(UINT list, UINT target)
 bool CHeadlessSession::Menu(UINT list, UINT command)
 {
     auto& control = As<CListCtrl>(list, "a list");
+    const std::size_t menusBefore = m_menus.ShownCount();
     m_menus.SetChoice(command);
     const bool shown = CUserInput::ContextMenu(control);
     m_menus.SetChoice(0);
+    // A command the menu does not list is a mistake of the script; one it
+    // lists greyed out is a choice the user cannot make, and does nothing;
+    // command 0 shows the menu and chooses nothing.
+    if (command != 0 && m_menus.ShownCount() != menusBefore) {
+        const auto& items = m_menus.LastMenu().Items();
+        if (std::none_of(items.begin(), items.end(), [command](const CMenuItem& i) { return i.id == command; })) {
+            std::string listed;
+            for (const auto& item : items)
+                listed += (listed.empty() ? "" : ", ") + std::to_string(item.id);
+            throw HeadlessError("the context menu of list " + IdText(list) + " has no command " +
+                                std::to_string(command) + " (it has " + listed + ")");
+        }
+    }
     return shown;
 }
 

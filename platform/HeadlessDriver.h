@@ -22,12 +22,17 @@ public:
     UINT Choose(const CMenu& menu)
     {
         m_lastMenu = menu;
+        ++m_shown;
         return menu.IsEnabled(m_choice) ? m_choice : 0;
     }
     const CMenu& LastMenu() const { return m_lastMenu; }
+    // How many menus have been shown, so that a caller can tell whether its
+    // action showed one.
+    std::size_t ShownCount() const { return m_shown; }
 
 private:
     UINT m_choice = 0;
+    std::size_t m_shown = 0;
     CMenu m_lastMenu;
 };
 

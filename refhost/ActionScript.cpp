@@ -112,8 +112,8 @@ long long Number(const std::string& text, std::size_t line, const char* what, lo
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (text.empty() || error != std::errc() || end != text.data() + text.size() || value < min || value > max)
         throw ScriptError(line, std::string(what) + " must be a number" +
-                                    (min >= 0 ? " from " + std::to_string(min) : std::string()) + ", not \"" + text +
-                                    "\"");
+                                    (min >= 0 ? " from " + std::to_string(min) : std::string()) + ", not " +
+                                    ShowText(text));
     return value;
 }
 
@@ -179,7 +179,51 @@ bool EffectivelyVisible(const CWnd& wnd)
     return true;
 }
 
+// Appends `text` with its control characters escaped, up to `limit` bytes
+// and never inside a UTF-8 sequence; returns how much of `text` it took.
+std::size_t AppendEscaped(std::string& out, std::string_view text, std::size_t limit)
+{
+    static constexpr char kHex[] = "0123456789abcdef";
+    std::size_t i = 0;
+    for (; i < text.size() && i < limit; ++i) {
+        const auto c = static_cast<unsigned char>(text[i]);
+        if (c == '\t')
+            out += "\\t";
+        else if (c == '\n')
+            out += "\\n";
+        else if (c == '\r')
+            out += "\\r";
+        else if (c < 0x20 || c == 0x7F)
+            out += {'\\', 'x', kHex[c >> 4], kHex[c & 15]};
+        else
+            out += static_cast<char>(c);
+    }
+    // Finish a character that the limit cut.
+    for (; i < text.size() && (static_cast<unsigned char>(text[i]) & 0xC0) == 0x80; ++i)
+        out += text[i];
+    return i;
+}
+
 } // namespace
+
+std::string ShowText(std::string_view text, std::size_t limit)
+{
+    std::string shown = "\"";
+    const std::size_t taken = AppendEscaped(shown, text, limit);
+    shown += '"';
+    if (taken < text.size())
+        shown = shown.substr(0, shown.size() - 1) + "...\" (" + std::to_string(text.size()) + " bytes)";
+    return shown;
+}
+
+std::string Printable(std::string_view message, std::size_t limit)
+{
+    std::string shown;
+    const std::size_t taken = AppendEscaped(shown, message, limit);
+    if (taken < message.size())
+        shown += "... (" + std::to_string(message.size() - taken) + " more bytes)";
+    return shown;
+}
 
 std::vector<ScriptLine> ParseScript(std::string_view text)
 {
@@ -188,12 +232,15 @@ std::vector<ScriptLine> ParseScript(std::string_view text)
     std::vector<ScriptLine> lines;
     std::size_t number = 0;
     while (!text.empty()) {
-        const std::size_t end = text.find('\n');
+        const std::size_t end = text.find_first_of("\r\n");
         std::string_view line = text.substr(0, end);
-        text = end == std::string_view::npos ? std::string_view() : text.substr(end + 1);
+        std::size_t next = end == std::string_view::npos ? text.size() : end + 1;
+        if (end != std::string_view::npos && text[end] == '\r' && next < text.size() && text[next] == '\n')
+            ++next;
+        text.remove_prefix(next);
         ++number;
-        if (!line.empty() && line.back() == '\r')
-            line.remove_suffix(1);
+        if (line.size() > kMaxScriptLine)
+            throw ScriptError(number, "the line is longer than " + std::to_string(kMaxScriptLine >> 20) + " MiB");
         if (line.find('\0') != std::string_view::npos)
             throw ScriptError(number, "a NUL character");
 
@@ -206,14 +253,14 @@ std::vector<ScriptLine> ParseScript(std::string_view text)
         parsed.verb = Token(line, pos, number);
         const auto action = kActions.find(parsed.verb);
         if (action == kActions.end())
-            throw ScriptError(number, "unknown action \"" + parsed.verb + "\"");
+            throw ScriptError(number, "unknown action " + ShowText(parsed.verb));
         Shape shape = action->second;
         for (;;) {
             SkipBlanks(line, pos);
             if (parsed.verb == "expect" && parsed.args.size() == 1) {
                 const auto check = kChecks.find(parsed.args[0]);
                 if (check == kChecks.end())
-                    throw ScriptError(number, "unknown check \"" + parsed.args[0] + "\"");
+                    throw ScriptError(number, "unknown check " + ShowText(parsed.args[0]));
                 const Shape& c = check->second;
                 shape = {c.minArgs + 1, c.maxArgs == SIZE_MAX ? SIZE_MAX : c.maxArgs + 1, c.restOfLine, c.usage};
             }
@@ -252,7 +299,7 @@ std::vector<ScriptLine> ParseScript(std::string_view text)
             else if (what == "combo")
                 Id(a[1], number), Number(a[2], number, "the index", -1, 0x7FFFFFFF);
             else if (what == "cursor" && !kCursors.count(a[1]))
-                throw ScriptError(number, "the cursor is NONE, DROP, NODROP or REMOVE, not \"" + a[1] + "\"");
+                throw ScriptError(number, "the cursor is NONE, DROP, NODROP or REMOVE, not " + ShowText(a[1]));
         }
         lines.push_back(std::move(parsed));
     }
@@ -285,6 +332,7 @@ void ScriptRunner::RunAll()
         }
         m_outcome = Outcome::NoDialog;
         ++m_opens;
+        m_openLine = line.number;
         m_open(Id(line.args[0], line.number));
     }
 }
@@ -297,6 +345,11 @@ void ScriptRunner::RunDialog(CHeadlessSession& session)
         if (line.verb == "open") {
             if (!m_allowOpen)
                 Fail(Outcome::BadLine, "line " + std::to_string(line.number) + ": \"open\" belongs in play scripts");
+            else if (m_note)
+                m_note("line " + std::to_string(line.number) + ": the dialog opened at line " +
+                       std::to_string(m_openLine) +
+                       " is still open; it is left without ok or cancel, so its "
+                       "choices are not kept");
             return; // this dialog is left open
         }
         ++m_next;

@@ -39,7 +39,20 @@ private:
     std::size_t m_line;
 };
 
+// The longest script and the longest line a script may have: room for a
+// selection of a million variables, short of exhausting memory.
+inline constexpr std::size_t kMaxScriptBytes = std::size_t{64} << 20;
+inline constexpr std::size_t kMaxScriptLine = std::size_t{16} << 20;
+
+// Lines end with LF, CR LF or CR alone.
 std::vector<ScriptLine> ParseScript(std::string_view text);
+
+// `text` as a message shows it: in double quotes, control characters
+// escaped (\t, \x1b, ...), cut after `limit` bytes with the length said.
+std::string ShowText(std::string_view text, std::size_t limit = 60);
+// A whole message made safe for a terminal: control characters escaped,
+// and cut after `limit` bytes.
+std::string Printable(std::string_view message, std::size_t limit = 2000);
 
 class ScriptRunner {
 public:
@@ -60,8 +73,12 @@ public:
     // Why the run failed: "line N: ..." for a bad line or a failed check.
     const std::string& GetMessage() const { return m_message; }
     bool Failed() const { return m_outcome == Outcome::BadLine || m_outcome == Outcome::ExpectFailed; }
-    // How many `open` lines ran.
+    // How many `open` lines ran, and the line of the last one.
     int GetOpenCount() const { return m_opens; }
+    std::size_t GetOpenLine() const { return m_openLine; }
+    // Receives what the user should know but that does not stop the run
+    // (a dialog left open by the next `open`).
+    void SetNoteSink(std::function<void(const std::string&)> sink) { m_note = std::move(sink); }
 
 private:
     void Act(CHeadlessSession& session, const ScriptLine& line);
@@ -74,6 +91,8 @@ private:
     bool m_allowOpen;
     std::size_t m_next = 0;
     int m_opens = 0;
+    std::size_t m_openLine = 0;
+    std::function<void(const std::string&)> m_note;
     Outcome m_outcome = Outcome::NoDialog;
     std::string m_message;
 };

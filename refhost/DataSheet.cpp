@@ -57,6 +57,14 @@ DataSheet::DataSheet(std::vector<Variable> variables, std::size_t cases, std::st
 
 DataSheet DataSheet::LoadCsv(const std::filesystem::path& file)
 {
+    // Only a regular file has an end: a device or a pipe could block or
+    // grow without bound, a directory reads as nothing.
+    std::error_code error;
+    const auto status = std::filesystem::status(file, error);
+    if (!error && std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+        throw DataError(file.string() + ": cannot be read: it is " +
+                        (std::filesystem::is_directory(status) ? "a directory" : "not a regular file") +
+                        "; give --data a CSV file");
     std::ifstream in(file, std::ios::binary);
     if (!in)
         throw DataError(file.string() + ": cannot be read: " + std::strerror(errno));
@@ -200,7 +208,10 @@ public:
         bool eof = false;
         while (m_error.empty()) {
             const char* first = buffer.get() + begin;
-            const auto* newline = static_cast<const char*>(std::memchr(first, '\n', end - begin));
+            if (!m_lineEndKnown)
+                m_lineEndKnown = ChooseLineEnd({first, end - begin}, eof);
+            const auto* newline =
+                m_lineEndKnown ? static_cast<const char*>(std::memchr(first, m_lineEnd, end - begin)) : nullptr;
             if (newline) {
                 Line({first, static_cast<std::size_t>(newline - first)});
                 begin = static_cast<std::size_t>(newline - buffer.get()) + 1;
@@ -213,6 +224,11 @@ public:
             }
             // Keep the unfinished line, make room, read the next block.
             end -= begin;
+            if (end >= kCsvMaxLine) {
+                m_error = m_name + " line " + std::to_string(m_line + 1) + ": the line is longer than " +
+                          std::to_string(kCsvMaxLine >> 20) + " MiB (is this a CSV file?)";
+                break;
+            }
             if (end == capacity) {
                 auto larger = std::make_unique_for_overwrite<char[]>(2 * capacity);
                 std::memcpy(larger.get(), first, end);
@@ -316,6 +332,15 @@ private:
         m_quoted += '\n';
         if (csv_parse(&m_parser, m_quoted.data(), m_quoted.size(), OnField, OnRecordEnd, this) != m_quoted.size())
             ParserFailed(false);
+        // A quoted value may run over many lines; it may not grow for ever.
+        if (m_parser.entry_pos > kCsvMaxField)
+            FieldTooLong();
+    }
+
+    void FieldTooLong()
+    {
+        Fail(m_column + 1,
+             "a value longer than " + std::to_string(kCsvMaxField >> 20) + " MiB (is a quote not closed?)");
     }
 
     DataSheet Finish()
@@ -342,6 +367,24 @@ private:
                              : "badly quoted value (a quote inside an unquoted value, or text after a closing quote)");
         else
             m_error = m_name + " line " + std::to_string(m_line) + ": " + csv_strerror(csv_error(&m_parser));
+    }
+
+    // Lines end with LF or CR LF; files of old Macintosh programs end them
+    // with CR alone. Decided once, from the first line end, so that the
+    // bulk of a file is scanned for one byte. False until a line end (or
+    // the end of the file) is in `text`.
+    bool ChooseLineEnd(std::string_view text, bool eof)
+    {
+        const std::size_t cr = text.find('\r');
+        const std::size_t lf = text.find('\n');
+        if (cr == std::string_view::npos || (lf != std::string_view::npos && lf < cr)) {
+            m_lineEnd = '\n';
+            return lf != std::string_view::npos || eof;
+        }
+        if (cr + 1 == text.size() && !eof)
+            return false; // an LF may follow in the next block
+        m_lineEnd = cr + 1 < text.size() && text[cr + 1] == '\n' ? '\n' : '\r';
+        return true;
     }
 
     // A header without a comma but with semicolons or tabs separates its
@@ -383,6 +426,8 @@ private:
     {
         if (!m_error.empty())
             return;
+        if (field.size() > kCsvMaxField)
+            return FieldTooLong();
         if (!IsAscii(field) && !IsUtf8(field))
             return Fail(m_column + 1, "bytes that are not UTF-8 (save the file as UTF-8)");
         if (!m_haveHeader)
@@ -457,6 +502,8 @@ private:
     std::string m_name;
     csv_parser m_parser{};
     char m_delimiter = ',';
+    char m_lineEnd = '\n';
+    bool m_lineEndKnown = false;
     std::string m_quoted;
     std::vector<Variable> m_variables;
     std::vector<std::uint8_t> m_numeric; // per column: no value so far says otherwise

@@ -74,5 +74,9 @@ bool IsNumberText(std::string_view text);
 // How much of a file the CSV reader reads at a time (a longer line makes it
 // read more).
 inline constexpr std::size_t kCsvReadBlock = std::size_t{1} << 20;
+// The longest line and the longest value a data file may hold: far beyond
+// any sheet of a million variables, short of what would exhaust memory.
+inline constexpr std::size_t kCsvMaxLine = std::size_t{64} << 20;
+inline constexpr std::size_t kCsvMaxField = std::size_t{1} << 20;
 
 } // namespace kalhost

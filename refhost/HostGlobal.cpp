@@ -89,6 +89,8 @@ void HostGlobal::RunCommand(UINT commandId, const CString&)
     CGUIBaseObj* settings = m_store.Get(commandId);
     if (!settings)
         return;
+    // The user confirmed these settings: they are this session's to save.
+    m_store.Touch(commandId);
     CLIST<CCmdInfo> list;
     settings->GetCommandInfoList(list);
     for (const auto& line : list)
@@ -110,6 +112,8 @@ void HostGlobal::ReportMessage(UINT messageId, int)
 
 void HostGlobal::ReportFieldMessage(UINT messageId, const CString& detail)
 {
+    if (m_messagesMuted)
+        return;
     CString text = m_resources.GetMessageText(messageId);
     if (!detail.IsEmpty())
         text += (text.IsEmpty() ? CString() : CString(u" ")) + detail;

@@ -63,6 +63,18 @@ public:
     bool IsCommandAllowed(UINT commandId) override;
     void ReportMessage(UINT messageId, int flags) override;
     void ReportFieldMessage(UINT messageId, const CString& detail) override;
+    // While one lives, messages are not shown: a dialog checked behind the
+    // user's back (a store entry confirmed as it loads) tells nobody.
+    class MutedMessages {
+    public:
+        explicit MutedMessages(HostGlobal& host) : m_host(host) { m_host.m_messagesMuted = true; }
+        ~MutedMessages() { m_host.m_messagesMuted = false; }
+        MutedMessages(const MutedMessages&) = delete;
+        MutedMessages& operator=(const MutedMessages&) = delete;
+
+    private:
+        HostGlobal& m_host;
+    };
     void OnDialogOpening(int) override {}
     bool IsReplayMode() override { return false; }
     IMainFrame* GetMainFrame() override { return this; }
@@ -105,6 +117,7 @@ private:
     std::unique_ptr<Kernel> m_kernel;
     std::unique_ptr<Data> m_data;
     int m_commandsRun = 0;
+    bool m_messagesMuted = false;
 };
 
 } // namespace kalhost

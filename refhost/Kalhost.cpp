@@ -7,26 +7,28 @@
 #include "refhost/HostGlobal.h"
 #include "refhost/ModuleLoader.h"
 #include "refhost/Resources.h"
+#include "refhost/SettingsStore.h"
 
 #include "refhost/QtViewPlugin.h"
 
 #include <CLI/CLI.hpp>
 
 #include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
 #include <functional>
 #include <iomanip>
 #include <iostream>
 #include <map>
 #include <optional>
 #include <set>
-#include <sstream>
 
 namespace kalhost {
 
@@ -58,19 +60,47 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// Reads a script to its end, at most kMaxScriptBytes of it. Reading at the
+// descriptor tells a stream that cannot be read (closed, a directory) from
+// one that is empty.
+std::string ReadScript(int fd, const std::string& name)
+{
+    std::string text;
+    char buffer[65536];
+    for (;;) {
+        const ssize_t n = ::read(fd, buffer, sizeof buffer);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            throw UsageError(name + " cannot be read: " + std::strerror(errno));
+        if (n == 0)
+            return text;
+        text.append(buffer, static_cast<std::size_t>(n));
+        if (text.size() > kMaxScriptBytes)
+            throw UsageError(name + " is longer than " + std::to_string(kMaxScriptBytes >> 20) +
+                             " MiB, more than any script needs");
+    }
+}
+
+// A script: standard input ("-") or a regular file. A directory or a device
+// is refused before it is read, so nothing blocks or grows without end.
 std::string ReadText(const std::string& file)
 {
-    if (file == "-") {
-        std::ostringstream text;
-        text << std::cin.rdbuf();
-        return text.str();
-    }
-    std::ifstream in(file, std::ios::binary);
-    if (!in)
+    if (file == "-")
+        return ReadScript(STDIN_FILENO, "standard input");
+    const int fd = ::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
         throw UsageError(file + ": cannot be read: " + std::strerror(errno));
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
+    struct Closer {
+        int fd;
+        ~Closer() { ::close(fd); }
+    } closer{fd};
+    struct stat info {};
+    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode))
+        throw UsageError(file + ": cannot be read: it is " +
+                         (S_ISDIR(info.st_mode) ? "a directory" : "not a regular file") +
+                         "; give a script file, or - for standard input");
+    return ReadScript(fd, file);
 }
 
 std::string ScriptName(const std::string& file)
@@ -144,16 +174,25 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    // Saves the store, if one was given; false after reporting a failure.
+    // Saves the store, if one was given and may be written; false after
+    // reporting a failure.
     bool SaveStore()
     {
-        if (m_options.storeFile.empty())
+        if (m_options.storeFile.empty() || m_storeReadOnly)
             return true;
         try {
-            m_host.Store().Save(m_options.storeFile);
+            const auto report = m_host.Store().Save(m_options.storeFile);
+            if (!report.setAside.empty()) {
+                for (const auto& part : report.setAside)
+                    StoreNote(part.reason);
+                StoreNote("set aside in " + report.aside.string() + " while saving (kalhost store-dump " +
+                          report.aside.string() + " shows it)");
+            }
             return true;
         } catch (const std::exception& e) {
-            std::cerr << "kalhost: the settings store could not be saved: " << e.what() << std::endl;
+            std::cout.flush();
+            std::cerr << "kalhost: the settings store " << Printable(e.what())
+                      << "; the choices of this session are not kept" << std::endl;
             return false;
         }
     }
@@ -205,39 +244,67 @@ private:
         m_host.SetDataSheet(std::move(sheet));
     }
 
+    void StoreNote(const std::string& what) const
+    {
+        std::cerr << "kalhost: settings store " << Printable(m_options.storeFile + ": " + what) << std::endl;
+    }
+
+    // Takes over only a store or a name that is free; loads every entry its
+    // dialog accepts and sets the others aside, so that one damaged entry
+    // costs that entry only.
     void LoadStore()
     {
         const std::filesystem::path file = m_options.storeFile;
         if (file.empty())
             return;
-        RemoveStaleTemporaries(file);
-        std::error_code error;
-        if (!std::filesystem::exists(file, error) && !std::filesystem::is_symlink(file, error))
-            return;
+        StoreFileState state;
+        SettingsStore::LoadReport report;
         try {
-            // An entry is of use when its dialog can write its lines.
-            const auto rejected = m_host.Store().Load(file, [this](UINT id, CGUIBaseObj& settings) {
+            // Nothing is known about a file that is not a store: it stays as
+            // it is, and the run stops before it could be overwritten.
+            state = InspectStoreFile(file);
+            if (!state.writable) {
+                m_storeReadOnly = true;
+                StoreNote("it is read-only, so the choices of this session will not be saved (make it writable, "
+                          "or give another --store)");
+            } else {
+                RemoveStaleTemporaries(file);
+            }
+            if (!state.exists)
+                return;
+            // An entry is of use when its dialog can take it; whether its OK
+            // would pass (a test needs its model, loaded later) is for
+            // when it opens, so the check shows no messages.
+            report = m_host.Store().Load(file, [this](UINT id, CGUIBaseObj& settings) {
+                const HostGlobal::MutedMessages muted(m_host);
                 CLIST<CCmdInfo> lines;
                 m_module->ConfirmedLines(id, &settings, lines);
             });
-            if (rejected.empty())
-                return;
-            std::vector<StoreEntry> entries;
-            for (const auto& r : rejected) {
-                std::cerr << "kalhost: the settings store " << file.string() << " holds an " << r.reason << std::endl;
-                entries.push_back(r.entry);
-            }
-            const auto aside = KeepAside(file, entries);
-            std::cerr << "kalhost: " << (entries.size() == 1 ? "that entry is" : "those entries are") << " kept in "
-                      << aside.string() << "; the session goes on with the others" << std::endl;
-        } catch (const StoreAccessError& e) {
-            // Nothing is known about a file that cannot be read: it stays as
-            // it is, and the run stops before it could be overwritten.
-            throw UsageError(std::string("the settings store ") + e.what());
         } catch (const StoreError& e) {
-            const auto aside = KeepAside(file);
-            std::cerr << "kalhost: the settings store cannot be read (" << e.what() << "); it is kept as "
-                      << aside.string() << " and the session starts with fresh settings" << std::endl;
+            throw UsageError(std::string("the settings store ") + e.what());
+        }
+        if (report.missing > 0)
+            StoreNote(std::to_string(report.missing) + (report.missing == 1 ? " entry is" : " entries are") +
+                      " missing: the file was cut short after its last entry");
+        if (report.rejected.empty())
+            return;
+        for (const auto& part : report.rejected)
+            StoreNote(part.reason);
+        const std::string others = "the session goes on with the other " + std::to_string(report.loaded) +
+                                   (report.loaded == 1 ? " entry" : " entries");
+        if (m_storeReadOnly) {
+            StoreNote("the read-only store keeps what could not be used; " + others);
+            return;
+        }
+        try {
+            const auto aside = KeepAside(file, report.rejected);
+            m_host.Store().Forget(report.rejected);
+            StoreNote((report.rejected.size() == 1 ? "that part is" : "those parts are") +
+                      std::string(" set aside in ") + aside.string() + " (kalhost store-dump " + aside.string() +
+                      " shows them); " + others);
+        } catch (const StoreError& e) {
+            StoreNote(std::string("what could not be used stays in the store, since it cannot be set aside: ") +
+                      e.what());
         }
     }
 
@@ -245,6 +312,7 @@ private:
     std::unique_ptr<ResourceTable> m_resources;
     HostGlobal m_host;
     std::optional<LoadedModule> m_module;
+    bool m_storeReadOnly = false;
 };
 
 // Where each command sits in the menus, as a user reads it: "Analysis of
@@ -297,10 +365,10 @@ int StatusOf(const ScriptRunner& runner, const std::string& script)
 {
     switch (runner.GetOutcome()) {
     case ScriptRunner::Outcome::BadLine:
-        std::cerr << "kalhost: " << ScriptName(script) << " " << runner.GetMessage() << std::endl;
+        std::cerr << "kalhost: " << Printable(ScriptName(script) + " " + runner.GetMessage()) << std::endl;
         return kExitUsage;
     case ScriptRunner::Outcome::ExpectFailed:
-        std::cerr << "kalhost: " << ScriptName(script) << " " << runner.GetMessage() << std::endl;
+        std::cerr << "kalhost: " << Printable(ScriptName(script) + " " + runner.GetMessage()) << std::endl;
         return kExitExpectFailed;
     case ScriptRunner::Outcome::Confirmed: return kExitDone;
     default: return kExitDialogNotConfirmed;
@@ -375,6 +443,9 @@ int OpenHeadless(Session& session, const Options& options)
         std::cerr << "kalhost: nobody acted in the dialog of " << options.commandId
                   << ", so it was left open: give it an action script (--actions FILE, or - for standard input), "
                   << "or show it in a window with --gui" << std::endl;
+    else if (status == kExitDialogNotConfirmed && driver.LastLeftOpen())
+        std::cerr << "kalhost: " << ScriptName(options.actionsFile) << " ended with the dialog of " << options.commandId
+                  << " still open; end its actions with ok or cancel" << std::endl;
     return status;
 }
 
@@ -433,6 +504,10 @@ int Play(Session& session, const Options& options)
                              ": no menu command " + line.args[0]);
     CHeadlessDriver driver;
     ScriptRunner runner(std::move(lines), true, [&session](UINT id) { session.SendMenuCommand(id); });
+    runner.SetNoteSink([&options](const std::string& note) {
+        std::cout.flush();
+        std::cerr << "kalhost: " << Printable(ScriptName(options.playFile) + " " + note) << std::endl;
+    });
     driver.SetScript([&runner](CHeadlessSession& s) { runner.RunDialog(s); });
     {
         DriverScope scope(driver);
@@ -440,6 +515,11 @@ int Play(Session& session, const Options& options)
     }
     if (runner.GetOpenCount() == 0 && !runner.Failed())
         return kExitDone; // a script without dialogs has nothing to confirm
+    if (!runner.Failed() && driver.LastLeftOpen()) {
+        std::cout.flush();
+        std::cerr << "kalhost: " << ScriptName(options.playFile) << " ended with the dialog opened at line "
+                  << runner.GetOpenLine() << " still open; end its actions with ok or cancel" << std::endl;
+    }
     return StatusOf(runner, options.playFile);
 }
 
@@ -468,16 +548,24 @@ int PrintCommands(Session& session, UINT id)
     return kExitDone;
 }
 
+// A store as far as it is intact: each entry with the lines its dialog
+// writes, and each damaged part with what is wrong with it.
 int DumpStore(Session& session, const std::string& file)
 {
-    const auto entries = ReadStoreFile(file);
-    std::cout << file << ": " << entries.size() << (entries.size() == 1 ? " entry" : " entries") << '\n';
+    const StoreContents contents = ReadStoreFile(file);
+    const auto& entries = contents.entries;
+    std::cout << file << ": " << entries.size() << (entries.size() == 1 ? " entry" : " entries");
+    if (!contents.damaged.empty())
+        std::cout << ", " << contents.damaged.size() << " damaged "
+                  << (contents.damaged.size() == 1 ? "part" : "parts");
+    std::cout << '\n';
     for (const auto& entry : entries) {
-        std::cout << "command " << entry.id << ", " << entry.className << ", " << entry.record.size() << " bytes\n";
+        std::cout << "command " << entry.id << ", " << Printable(entry.className) << ", " << entry.record.size()
+                  << " bytes\n";
         try {
             auto settings = LoadEntry(entry);
             if (!settings) {
-                std::cout << "  (this module has no class " << entry.className << ")\n";
+                std::cout << "  (this module has no class " << Printable(entry.className) << ")\n";
                 continue;
             }
             CLIST<CCmdInfo> lines;
@@ -488,11 +576,16 @@ int DumpStore(Session& session, const std::string& file)
             for (const auto& line : lines)
                 std::cout << "  " << line.m_strCommand.ToUtf8() << '\n';
         } catch (const StoreError& e) {
-            std::cout << "  (unreadable: " << e.what() << ")\n";
+            std::cout << "  (unreadable: " << Printable(e.what()) << ")\n";
         } catch (const CException& e) {
-            std::cout << "  (its lines cannot be written: " << e.what() << ")\n";
+            std::cout << "  (not accepted by its dialog: " << Printable(e.what()) << ")\n";
         }
     }
+    for (const auto& part : contents.damaged)
+        std::cout << "damaged, " << part.bytes.size() << " bytes: " << Printable(part.reason) << '\n';
+    if (contents.missing > 0)
+        std::cout << contents.missing << (contents.missing == 1 ? " entry is" : " entries are")
+                  << " missing: the file was cut short after its last entry\n";
     return kExitDone;
 }
 
@@ -553,6 +646,28 @@ std::string FirstContactUsage()
            "\nWithout --data the built-in sample data sheet is open.\n";
 }
 
+// An option given with nothing in it would otherwise be taken as not given
+// at all: the run would use the sample data, no store, the default module.
+std::string EmptyValue(const CLI::App& app, const Options& options)
+{
+    const std::pair<const char*, const std::string*> valued[] = {{"--data", &options.dataFile},
+                                                                 {"--store", &options.storeFile},
+                                                                 {"--module", &options.modulePath},
+                                                                 {"--decimal", &options.decimal},
+                                                                 {"--module-state", &options.moduleState}};
+    for (const auto& [name, value] : valued)
+        if (app.get_option(name)->count() > 0 && value->empty())
+            return std::string(name) + " needs a value; an empty one is not one";
+    if (app.get_option("--categorical")->count() > 0) {
+        const auto& names = options.categorical;
+        if (names.empty() || std::any_of(names.begin(), names.end(), [](const std::string& n) {
+                return n.find_first_not_of(" \t") == std::string::npos;
+            }))
+            return "--categorical takes variable names separated by commas (A,B), and no name may be empty";
+    }
+    return {};
+}
+
 // Output that did not reach its file (a full disk, a closed pipe) is a
 // failure of the run, not a silent loss.
 int CheckOutput(int status)
@@ -582,8 +697,8 @@ int Run(int argc, char** argv)
     Options options;
     app.add_option("--data", options.dataFile, "CSV data file to open instead of the built-in sample");
     app.add_flag("--no-data", options.noData, "open no data sheet");
-    app.add_option("--categorical", options.categorical, "variables the data sheet marks categorical (A,B)")
-        ->delimiter(',');
+    std::string categorical;
+    app.add_option("--categorical", categorical, "variables the data sheet marks categorical (A,B)");
     app.add_flag("--matrix", options.matrix, "the open data is a matrix");
     app.add_option("--store", options.storeFile, "settings store: loaded at start when it exists, saved at exit");
     app.add_flag("--write-all", options.writeAll, "write every option, defaults included");
@@ -627,15 +742,23 @@ int Run(int argc, char** argv)
     } catch (const CLI::ParseError& e) {
         return CheckOutput(app.exit(e) == 0 ? kExitDone : kExitUsage);
     }
+    for (std::size_t start = 0; !categorical.empty() && start <= categorical.size();) {
+        const std::size_t comma = std::min(categorical.find(',', start), categorical.size());
+        options.categorical.push_back(categorical.substr(start, comma - start));
+        start = comma + 1;
+    }
+    if (const std::string why = EmptyValue(app, options); !why.empty()) {
+        std::cerr << "kalhost: " << why << std::endl;
+        return kExitUsage;
+    }
 
     try {
         if (*dump) {
             // A dump reads entries through the module's settings classes.
+            // The entries' lines are written as `commands` writes them: on
+            // the data given, else the sample sheet.
             Options plain = options;
             plain.storeFile.clear();
-            plain.noData = true;
-            plain.dataFile.clear();
-            plain.categorical.clear();
             Session session(plain, Session::Parse::ResourcesFirst);
             return CheckOutput(DumpStore(session, options.dumpFile));
         }
@@ -654,7 +777,7 @@ int Run(int argc, char** argv)
                 status = PrintCommands(session, options.commandId);
         } catch (const std::exception& e) {
             std::cout.flush();
-            std::cerr << "kalhost: " << e.what() << std::endl;
+            std::cerr << "kalhost: " << Printable(e.what()) << std::endl;
         }
         // What the user confirmed before any failure is kept.
         if (!session.SaveStore() && status == kExitDone)
@@ -662,7 +785,7 @@ int Run(int argc, char** argv)
         return CheckOutput(status);
     } catch (const std::exception& e) {
         std::cout.flush();
-        std::cerr << "kalhost: " << e.what() << std::endl;
+        std::cerr << "kalhost: " << Printable(e.what()) << std::endl;
         return CheckOutput(kExitUsage);
     }
 }

@@ -15,14 +15,7 @@ void CAnovaData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
     AddVariables(depend, m_DependentList, u" ");
     AppendCommandLine(list, depend);
 
-    // "/ OFF" has no leading blank: the keyword's own blank separates it.
-    const int factors = m_FactorList.GetSize();
-    CString category(u"CATEGORY ");
-    AddVariables(category, m_FactorList, u" ");
-    category += AddOnConditionCmd(u"/ OFF", factors <= 0);
-    category += AddOnConditionCmd(u" / REPLACE", factors > 0);
-    category += AddOnConditionCmd(u" MISS", factors > 0 && m_MissingValCheck != 0);
-    AppendCommandLine(list, category);
+    AppendCommandLine(list, CategoryLine(*this, m_FactorList, m_MissingValCheck));
 
     CString covar(u"COVAR ");
     AddVariables(covar, m_CovariateList, u" ");
@@ -41,22 +34,38 @@ void CAnovaData::FillListSource()
 {
     CGUIArray<CGUIDataVariable> all;
     CBaseGui::GetSourceVariable(&all, NmsEnum::ADD_ALL_VARIABLES, 0);
-    UpdateCtrlList(&m_SourceList, &all, 1);
+    UpdateCtrlList(&m_SourceList, std::move(all), 1);
 
+    const CGUIArray<CGUIDataVariable> categorical = SheetCategoricalVariables();
+    if (!categorical.IsEmpty())
+        UpdateCtrlList(&m_FactorList, &categorical, 1);
+}
+
+CString CAnovaData::CategoryLine(const CGUIBaseObj& writer, const CGUIArray<CGUIDataVariable>& factors, int missing)
+{
+    // "/ OFF" has no leading blank: the keyword's own blank separates it.
+    const int count = factors.GetSize();
+    CString category(u"CATEGORY ");
+    writer.AddVariables(category, factors, u" ");
+    category += writer.AddOnConditionCmd(u"/ OFF", count <= 0);
+    category += writer.AddOnConditionCmd(u" / REPLACE", count > 0);
+    category += writer.AddOnConditionCmd(u" MISS", count > 0 && missing != 0);
+    return category;
+}
+
+CGUIArray<CGUIDataVariable> CAnovaData::SheetCategoricalVariables()
+{
+    CGUIArray<CGUIDataVariable> categorical;
     IGlobal* host = kal::framework::Host();
     IDataSheet* sheet = host ? host->GetActiveDataSheet() : nullptr;
     if (!sheet || !sheet->IsValid())
-        return;
-    const std::vector<int> marked = sheet->GetCategoricalIndexes();
-    if (marked.empty())
-        return;
-    CGUIArray<CGUIDataVariable> categorical;
-    for (const int index : marked) {
+        return categorical;
+    for (const int index : sheet->GetCategoricalIndexes()) {
         CGUIDataVariable variable;
         variable.SetVariableName(sheet->GetVariableName(index, 1));
         categorical.Add(variable);
     }
-    UpdateCtrlList(&m_FactorList, &categorical, 1);
+    return categorical;
 }
 
 void CAnovaData::Serialize(CArchive& ar)

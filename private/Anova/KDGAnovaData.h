@@ -49,10 +49,16 @@ public:
     }
 
     int GetDependentVariableListCount() const { return m_DependentList.GetSize(); }
+    const CGUIArray<CGUIDataVariable>& GetDependentList() const { return m_DependentList; }
     CGUIArray<CGUIDataVariable> GetFactorList() const { return m_FactorList; }
     CGUIArray<CGUIDataVariable> GetCovariateList() const { return m_CovariateList; }
     int IsFactorVariable(const CString& name) const { return CheckStringPresentinListCtrlArray(m_FactorList, name); }
     int IsFactorVariableGTZero() const { return m_FactorList.GetSize() > 0 ? 1 : 0; }
+    // "CATEGORY " and `factors`, then "/ OFF" without factors, else
+    // " / REPLACE" and " MISS" when `missing` is set; written by `writer`.
+    static CString CategoryLine(const CGUIBaseObj& writer, const CGUIArray<CGUIDataVariable>& factors, int missing);
+    // The variables the active data sheet marks categorical, in its order.
+    static CGUIArray<CGUIDataVariable> SheetCategoricalVariables();
     // The save list that fits `dependentCount` dependent variables.
     static UINT SaveListFor(int dependentCount) { return dependentCount > 1 ? kSaveListMultiple : kSaveListSingle; }
 

@@ -16,10 +16,8 @@ public:
     CAnovaTabData(const CAnovaTabData& other) : CAnovaTabData() { *this = other; }
     CAnovaTabData& operator=(const CAnovaTabData&) = default;
 
+    // The other pages' defaults are the general linear model's (CGLMTabData).
     static CAnovaData GetDefaultAnova() { return CAnovaData(); }
-    static CRepeatMeasuresData GetDefaultRepeatMeasures() { return CRepeatMeasuresData(); }
-    static CAnovaOptionsData GetDefaultAnovaOptions() { return CAnovaOptionsData(); }
-    static CBootStrapData GetDefaultBootStrap() { return CBootStrapData(); }
 
     CAnovaData* GetAnovaData() { return &m_AnovaData; }
     CAnovaOptionsData* GetAnovaOptionsData() { return &m_AnovaOptionsData; }

@@ -1,5 +1,7 @@
 #include "private/Anova/KDGAnovaTabDlg.h"
 
+#include "private/Anova/KDGGLMTabData.h"
+
 IMPLEMENT_DYNAMIC(CAnovaTabDlg, CGUITabDlg)
 
 CAnovaTabDlg::CAnovaTabDlg(CWnd* parent) : CGUIDataDlg(IDD, parent)
@@ -15,9 +17,11 @@ int CAnovaTabDlg::GetAllDefault()
     if (!m_pData)
         return 0;
     *m_pData->GetAnovaData() = CAnovaTabData::GetDefaultAnova();
-    *m_pData->GetRepeatMeasuresData() = CAnovaTabData::GetDefaultRepeatMeasures();
+    // The pages shared with the general linear model take its defaults.
+    *m_pData->GetRepeatMeasuresData() = CGLMTabData::GetDefaultRepeatMeasures();
     // The option values only: the enable states stay.
-    kal::ResetFields(*m_pData->GetAnovaOptionsData());
-    *m_pData->GetBootStrapData() = CAnovaTabData::GetDefaultBootStrap();
+    kal::WithFields(*m_pData->GetAnovaOptionsData(),
+                    [](auto&... values) { return CGLMTabData::GetDefaultAnovaOptions().GetAll(values...); });
+    *m_pData->GetBootStrapData() = CGLMTabData::GetDefaultBootStrap();
     return 1;
 }

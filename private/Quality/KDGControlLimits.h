@@ -9,6 +9,7 @@
 #include "framework/GUIBaseObj.h"
 
 #include <cmath>
+#include <limits>
 
 namespace kal::quality {
 
@@ -19,6 +20,30 @@ CString LimitsClause(const CGUIBaseObj& settings, const CGUIData<double>& lower,
 inline bool IsGiven(const CGUIData<double>& bound)
 {
     return !std::isnan(bound.m_Value);
+}
+
+// A number the user has not given yet: its edit shows empty, and an
+// emptied edit (a field marked Blank) comes back to it.
+inline CGUIData<double> NoNumber()
+{
+    const double none = std::numeric_limits<double>::quiet_NaN();
+    return CGUIData<double>(1, none, none, 0, 1);
+}
+
+// Specification limits given on both sides must be in order (0 when they
+// are), and a target given must lie within the limits given.
+inline UINT SpecLimitsOrder(const CGUIData<double>& lower, const CGUIData<double>& upper, UINT message)
+{
+    return IsGiven(lower) && IsGiven(upper) && lower.m_Value >= upper.m_Value ? message : 0;
+}
+inline UINT TargetWithin(const CGUIData<double>& lower, const CGUIData<double>& upper, const CGUIData<double>& target,
+                         UINT message)
+{
+    if (!IsGiven(target))
+        return 0;
+    const bool aboveLower = !IsGiven(lower) || target.m_Value >= lower.m_Value;
+    const bool belowUpper = !IsGiven(upper) || target.m_Value <= upper.m_Value;
+    return aboveLower && belowUpper ? 0 : message;
 }
 
 } // namespace kal::quality

@@ -46,6 +46,17 @@ TEST(UpdateCtrlList, KeepsOwnOrderThenAddsWhatTheSourceHasInSourceOrder)
     EXPECT_EQ(same[1].IsSelected(), 1);
 
     obj.UpdateCtrlList(nullptr, &source, 1); // no target: nothing to do
+
+    // A source given away fills an empty target with its own entries, each
+    // name once; into a filled target it is merged as any source is.
+    CGUIArray<CGUIDataVariable> taken;
+    auto given = Vars({u"X", u"Y", u"X"});
+    const CString shared = given[1].GetVariableName();
+    obj.UpdateCtrlList(&taken, std::move(given), 1);
+    EXPECT_EQ(Names(taken), (std::vector<std::u16string>{u"X", u"Y"}));
+    EXPECT_TRUE(taken[1].GetVariableName().SharesBufferWith(shared));
+    obj.UpdateCtrlList(&taken, Vars({u"Y", u"Z"}), 1);
+    EXPECT_EQ(Names(taken), (std::vector<std::u16string>{u"Y", u"Z"}));
 }
 
 TEST(ListQueries, PresenceComparisonAndSelection)

@@ -15,6 +15,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 using namespace kaltest;
 
 namespace {
@@ -352,6 +354,45 @@ TEST_F(Page, AnOptionalNumberIsEmptyAtItsDefaultAndEmptyGivesTheDefaultBack)
               IDCANCEL);
     EXPECT_EQ(host.messages, (std::vector<UINT>{2010, 2012}));
     EXPECT_EQ(data.m_Bound, CGUIData<double>(0.0));
+}
+
+TEST_F(Page, EveryEditReadsNumbersByOneGrammar)
+{
+    host.Resources().AddFile("optional.json", kOptionalTemplate);
+    // What is typed, and the value it gives, or the message that refuses it.
+    const struct {
+        std::u16string typed;
+        double value;
+        UINT message;
+    } table[] = {
+        {u" 0.25 ", 0.25, 0}, {u"+0.5", 0.5, 0},  {u".5", 0.5, 0},     {u"5e-1", 0.5, 0}, {u"-0", 0, 0},
+        {u"1e-400", 0, 0},    {u"-1e-400", 0, 0}, {u"1e400", 0, 2010}, {u"+-1", 0, 2010}, {u"--1", 0, 2010},
+        {u"++1", 0, 2010},    {u"1,5", 0, 2010},  {u"inf", 0, 2010},   {u"nan", 0, 2010}, {u"0x1p-1", 0, 2010},
+        {u"1 e2", 0, 2010},   {u"2", 0, 2012},    {u"-0.5", 0, 2012},
+    };
+    for (const auto& row : table) {
+        COptionalData data;
+        data.m_Bound.m_Value = 0.75;
+        host.messages.clear();
+        COptionalPage page;
+        page.SetData(&data);
+        driver.SetScript([&](CHeadlessSession& s) {
+            s.Type(9121, CString(row.typed));
+            s.Ok();
+            if (s.IsOpen())
+                s.Cancel();
+        });
+        page.DoModal();
+        const std::string typed = CString(row.typed).ToUtf8();
+        if (row.message != 0) {
+            EXPECT_EQ(host.messages, std::vector<UINT>{row.message}) << typed;
+            continue;
+        }
+        EXPECT_TRUE(host.messages.empty()) << typed;
+        EXPECT_EQ(data.m_Bound.m_Value, row.value) << typed;
+        EXPECT_FALSE(std::signbit(data.m_Bound.m_Value)) << typed; // written as 0, never -0
+    }
+    EXPECT_EQ(CString::FromNumber(-0.0), CString(u"0"));
 }
 
 TEST_F(Page, RoleListsMoveByButtonMenuDragAndDoubleClick)

@@ -154,7 +154,7 @@ TEST_F(Launch, ConfirmingWritesWhatAnImmediateOkWritesAndLeavesTheStoreAlone)
     // Settings as a store reload leaves them: no owner ids, no enable
     // states of the options page, a page out of use.
     CAnovaTabData stored;
-    stored.GetAnovaData()->SetAll(Vars({}), Vars({u"Y", u"Y2"}), Vars({}), Vars({}), 0, 0, 0, 1, 6, {});
+    stored.GetAnovaData()->SetAll(Vars({}), Vars({u"Y", u"Y2"}), Vars({}), Vars({}), 0, 0, 0, 1, 4, {});
     stored.GetRepeatMeasuresData()->SetAll(1, {CString(u"a")}, {2}, {CString()});
     stored.GetBootStrapData()->SetWindowState(0);
     const MenuCommandRow& row = module->GetAnalysisofVarianceMsg()->Rows()[0];

@@ -3,6 +3,7 @@
 #include "platform/DataExchange.h"
 #include "platform/Diagnostics.h"
 #include "platform/HeadlessDriver.h"
+#include "platform/TextIndex.h"
 #include "platform/UserInput.h"
 #include "tests/support/Printers.h"
 
@@ -225,6 +226,28 @@ TEST(ListControl, FindsItemsAndKeepsItsSelectionThroughInsertsAndDeletes)
     EXPECT_EQ(list.FindItem(u"V3"), -1);
     list.SetItemSelected(0, true);
     EXPECT_EQ(list.GetSelectedCount(), 2);
+}
+
+TEST(TextIndex, LargeIndexesFindTheFirstOfEqualTextsAcrossCrowdedAndWrappingProbes)
+{
+    // Enough texts that the index fills its table region by region; every
+    // third text repeats an earlier one, and a few hundred share one hash
+    // that leads to the last slot, so their probes wrap to the start.
+    constexpr int kCount = 90'000;
+    constexpr int kDistinct = 60'000;
+    constexpr int kCrowd = 300;
+    std::vector<std::u16string> texts;
+    for (int i = 0; i < kCount; ++i)
+        texts.push_back(u"V" + CString::FromNumber(i % kDistinct).Str());
+    const auto textOf = [&texts](int i) -> std::u16string_view { return texts[static_cast<std::size_t>(i)]; };
+    const auto hashOf = [&](int i) { return i % kDistinct < kCrowd ? 0xFFFFFFFFu : CTextIndex::Hash(textOf(i)); };
+    CTextIndex index;
+    EXPECT_EQ(index.Build(kCount, textOf, hashOf), kDistinct);
+    int misplaced = 0;
+    for (int i = 0; i < kCount; ++i)
+        misplaced += index.Find(texts[static_cast<std::size_t>(i)], hashOf(i), textOf) != i % kDistinct;
+    EXPECT_EQ(misplaced, 0);
+    EXPECT_EQ(index.Find(u"V60000", textOf), -1);
 }
 
 TEST(CommandRouting, MessageMapsWalkFromTheClassToItsBases)

@@ -91,14 +91,17 @@ TEST(Gallery, EveryPageOfEveryAvailableDialogRendersWithoutAssertion)
     ASSERT_FALSE(rows.empty());
     int pictures = 0;
     for (const std::string& id : rows) {
-        const std::vector<int> pages = ReachablePages(id);
-        EXPECT_FALSE(pages.empty()) << "command " << id;
+        std::vector<int> pages = ReachablePages(id);
+        // A dialog without pages is drawn once, as its one page (-1: no
+        // page to turn to).
+        if (pages.empty())
+            pages.push_back(-1);
         std::vector<QImage> drawn;
         for (const int page : pages) {
             SCOPED_TRACE("command " + id + " page " + std::to_string(page));
             const std::string file = dir.Path() + "/" + id + "-" + std::to_string(page) + ".png";
             const auto r = Kalhost({"open", id, "--actions", "-", "--gui", "--screenshot", file},
-                                   "page " + std::to_string(page) + "\n");
+                                   page < 0 ? std::string() : "page " + std::to_string(page) + "\n");
             EXPECT_EQ(r.status, 0) << r.err;
             EXPECT_EQ(r.err, "");
             const QImage image(QString::fromStdString(file));

@@ -39,6 +39,12 @@ const char* const kStepwiseLines = "REGRESS\n"
                                    "START / FORWARD FENTER = 5\n"
                                    "STEP / AUTO\n"
                                    "STOP / CONFI = 0.9\n";
+const char* const kGlmLines = "GLM\n"
+                              "MODEL Y = CONSTANT+A+B+A*B+X+X*X\n"
+                              "CATEGORY A B / REPLACE\n"
+                              "ESTIMATE / SS = TYPE3\n";
+const char* const kPairwiseLines = "GLM\nHYPOTHESIS\nPOST A / BONF CONFI = 0.9\nERROR 'A*B'\nTEST\n";
+const char* const kHypothesisLines = "GLM\nHYPOTHESIS\nEFFECT = A\nCONTRAST [ 1 -1 0; 0 1 -1 ]\nERROR 'A*B'\nTEST\n";
 const char* const kChoiceLines = "LOGIT\n"
                                  "SET avail1 avail2 avail3 / INDICATORS\n"
                                  "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
@@ -63,6 +69,20 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "click 1423\nexpect items 1438 Y Y2 X X2\npage 1\nexpect checked 1402 1\nexpect checked 1412 1\n"
          "expect text 1399 8\nok\n",
          0, "", "CORR\nPEARSON Y Y2 X X2 / EM T = 8 SAMPLE = BOOT(500)\n"},
+        {"glm.kal", "", kGlmLines, "2010", kGlmLines,
+         // The terms come back; without the quadratic term the model is smaller.
+         "expect items 2138 A B A*B X X*X\nexpect items 2126 A B\nselect 2138 X*X\nclick 2139\nok\n", 0, "",
+         "GLM\nMODEL Y = CONSTANT+A+B+A*B+X\nCATEGORY A B / REPLACE\nESTIMATE / SS = TYPE3\n"},
+        {"glm-pairwise.kal", "",
+         "GLM\nMODEL Y = CONSTANT+A+B+A*B\nCATEGORY A B / REPLACE\nESTIMATE / SS = TYPE3\n" +
+             std::string(kPairwiseLines),
+         "2012", kPairwiseLines, "expect combo 2166 3\nexpect checked 2161 1\nexpect text 2168 0.9\nok\n", 0, "",
+         kPairwiseLines},
+        {"glm-hypothesis.kal", "",
+         "GLM\nMODEL Y = CONSTANT+A+B+A*B\nCATEGORY A B / REPLACE\nESTIMATE / SS = TYPE3\n" +
+             std::string(kHypothesisLines),
+         "2013", kHypothesisLines, "expect checked 2189 1\npage 1\nexpect checked 2205 1\nok\n", 0, "",
+         kHypothesisLines},
         {"regression.kal", "",
          std::string("REGRESS\nMODEL Y = CONSTANT+X+X2\nSAVE 'residuals.kvd' / RESIDUALS\n"
                      "ESTIMATE / CONFI = 0.9 NTEST = SW\n") +
@@ -86,6 +106,25 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "", "", "", 1, "", ""},
         {"xmr.kal", "fill-weights.csv", "QC\nXMR   weight /  WIDTH = 3  CENTER = 500 SLIMITS=3,3 MEAN \n", "", "", "",
          1, "", ""},
+        {"quality-graphs.kal", "fill-weights.csv",
+         "QC\nBOX weight*lot / NOTCH OUTLIERS CENTER\nQC\nRUNCHART weight*lot / RUNS\n"
+         "QC\nHISTOGRAM weight / BINS=12 LSL=495 USL=505 TARGET=500 NORMAL\n",
+         "2045", "QC\nHISTOGRAM weight / BINS=12 LSL=495 USL=505 TARGET=500 NORMAL\n",
+         "expect text 5595 12\nexpect items 5592 weight\ncancel\n", 1, "", ""},
+        {"capability.kal", "fill-weights.csv",
+         "QC\nCAPABILITY weight*lot / LSL=495 USL=505 TARGET=500 CP PP NORMTEST\n", "2047",
+         "QC\nCAPABILITY weight*lot / LSL=495 USL=505 TARGET=500 CP PP NORMTEST\n",
+         "expect text 5556 495\nexpect items 5545 lot\ncancel\n", 1, "", ""},
+        {"run-lengths.kal", "",
+         "QC\nARL XBAR / N=4 MAXSHIFT=3 STEP=0.5 L=3\nQC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
+         "2038", "QC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
+         "expect combo 5512 1\nexpect text 5519 \"&Parameter λ (weight):\"\nexpect text 5513 5\ncancel\n", 1, "", ""},
+        {"time-weighted.kal", "fill-weights.csv",
+         "QC\nEWMA weight*lot / LAMBDA=0.1 TARGET=500 SLIMITS=2.7,2.7\n"
+         "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\nQC\nMA weight*lot / SPAN=4 PLIMITS=0,0  TEST = 1 2 \n",
+         "2035", "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\n",
+         // The CUSUM page shows its own controls, not the limits.
+         "expect checked 5478 1\nexpect text 5488 4\nexpect visible 5470 0\ncancel\n", 1, "", ""},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);

@@ -97,17 +97,14 @@ TEST_F(CorrelationsDialog, NumericEntriesAreRefusedWithTheirMessageOnTheirContro
     });
 }
 
-TEST_F(CorrelationsDialog, ImpossibleStatesAreReportedWithTheirSourceAndLine)
+TEST_F(CorrelationsDialog, ImpossibleStatesAreRefusedOrReportedWithTheirSourceAndLine)
 {
     AssertionCapture capture;
-    // A stored data type no radio button stands for.
+    // A stored data type no radio button stands for is refused before the
+    // page shows or uses it.
     data.GetCorrelationsData()->SetAll(Vars({}), Vars({u"X"}), Vars({}), 0, 0, 9, 0, 0, 0, 0, 0, 0, {});
-    Run([this](CHeadlessSession& s) {
-        tab->GetCorrelationsDlg().OnCmdMsg(WM_COMMAND, BN_CLICKED, Page0::IDC_CONTINUOUS);
-        s.Cancel();
-    });
-    ASSERT_EQ(capture.reports.size(), 1u);
-    EXPECT_EQ(capture.reports[0].first, "Source/KDGCorrelationsDlg");
+    EXPECT_THROW(Run([](CHeadlessSession& s) { s.Cancel(); }), kal::CFieldValueException);
+    EXPECT_TRUE(capture.reports.empty());
 
     // Pages without their tab.
     capture.reports.clear();

@@ -59,3 +59,13 @@ TEST(ChartSession, TheChartLinesMakeQcTheCurrentModule)
     }
     KalUseRes::SetGlobalResourceHandle(nullptr);
 }
+
+TEST(ChartSession, ARegressionAfterSeveralChartsLeavesTheQualityModuleFirst)
+{
+    const auto played = Kalhost({"play", "-"}, "open 2037\nselect 5461 Y\nclick 5463\nok\n"
+                                               "open 2034\nok\n"
+                                               "open 2051\nselect 4101 Y\nclick 4104\nok\n");
+    ASSERT_EQ(played.status, 0) << played.err;
+    EXPECT_EQ(played.out, "QC\nMA Y / PLIMITS=0,0\nQC\nARL XBAR / N=5 MAXSHIFT=3 STEP=0.5 L=3\n"
+                          "EXIT\nREGRESS\nMODEL Y = CONSTANT\nESTIMATE /\n");
+}

@@ -1,0 +1,3 @@
+#include "private/Anova/KDGGLMTabData.h"
+
+IMPLEMENT_SERIAL(CGLMTabData, CGUITabData, 1)

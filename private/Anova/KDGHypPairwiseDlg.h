@@ -1,0 +1,29 @@
+// CHypPairwiseDlg: the pairwise hypothesis matrix (template 2240), a dialog
+// without pages: the factor and the error term come from the last model,
+// the number of levels from the user. OK is refused while no model with a
+// factor is stored.
+#pragma once
+
+#include "framework/GUIPageDlg.h"
+#include "private/Anova/KDGHypPairwiseData.h"
+#include "private/Anova/KDGLastModel.h"
+
+class CHypPairwiseDlg : public CGUIPageDlg<CHypPairwiseData>, public CHypPairwiseDlgIds {
+    DECLARE_DYNAMIC(CHypPairwiseDlg)
+public:
+    static constexpr UINT kMsgNoModel = 2102;
+    static constexpr UINT kResidualText = 2159;
+
+    explicit CHypPairwiseDlg(CWnd* parent = nullptr) : CGUIPageDlg(IDD, parent) {}
+
+    BOOL OnInitDialog() override;
+    void DoDataExchange(CDataExchange* pDX) override;
+    int GetAllDefault() override;
+    const char* GetSourceFile() const override { return "Source/KDGHypPairwiseDlg"; }
+
+protected:
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CLastModel m_Model;
+};

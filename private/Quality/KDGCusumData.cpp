@@ -1,0 +1,3 @@
+#include "private/Quality/KDGCusumData.h"
+
+IMPLEMENT_SERIAL(CCusumData, CGUITabData, 1)

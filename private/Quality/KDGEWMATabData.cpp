@@ -1,0 +1,3 @@
+#include "private/Quality/KDGEWMATabData.h"
+
+IMPLEMENT_SERIAL(CEWMATabData, CGUITabData, 1)

@@ -1,0 +1,3 @@
+#include "private/Quality/KDGMaTabData.h"
+
+IMPLEMENT_SERIAL(CMaTabData, CGUITabData, 1)
