@@ -30,7 +30,7 @@ inline CGUIData<double> NoNumber()
     return CGUIData<double>(1, none, none, 0, 1);
 }
 
-// Specification limits given on both sides must be in order (0 when they
+// Tolerance limits given on both sides must be in order (0 when they
 // are), and a target given must lie within the limits given.
 inline UINT SpecLimitsOrder(const CGUIData<double>& lower, const CGUIData<double>& upper, UINT message)
 {

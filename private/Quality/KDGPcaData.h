@@ -1,5 +1,5 @@
 // CPcaData: process capability. Measurements (optionally in subgroups)
-// against their specification limits and target: the indices Cp and Cpk
+// against their tolerance limits and target: the indices Cp and Cpk
 // from the sigma within subgroups, Pp and Ppk from the overall sigma, the
 // histogram with the fitted normal curve drawn with the sigma chosen, and a
 // test of normality, without which the indices mislead. A limit or target

@@ -1,9 +1,9 @@
 // CPcaDlg: the process-capability dialog (template 5540). The user moves
 // numeric measurements to the measurement list and, optionally, variables
-// that form subgroups; gives the specification limits and the target; and
+// that form subgroups; gives the tolerance limits and the target; and
 // chooses the sigma of the fitted curve and the indices.
 //
-// Rules of the dialog: a measurement and at least one specification limit
+// Rules of the dialog: a measurement and at least one tolerance limit
 // are needed; given both, the lower lies below the upper, and a target
 // lies between them.
 #pragma once

@@ -1,5 +1,5 @@
 // CQaHistogramData: the quality histogram: measurements in bins, with the
-// specification limits and the target drawn as lines and a fitted normal
+// tolerance limits and the target drawn as lines and a fitted normal
 // curve over the bars. The number of bins may be left to the data; a limit
 // or target left empty is not drawn.
 #pragma once

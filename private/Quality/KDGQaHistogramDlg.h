@@ -1,5 +1,5 @@
 // CQaHistogramDlg: the quality histogram dialog (template 5590):
-// measurements, the number of bins, the specification limits and target
+// measurements, the number of bins, the tolerance limits and target
 // drawn, and the fitted normal curve. Limits given on both sides must be in
 // order, and a target given must lie within them.
 #pragma once
