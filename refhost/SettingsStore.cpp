@@ -681,7 +681,7 @@ SettingsStore::SaveReport SettingsStore::Save(const std::filesystem::path& file)
 
 std::filesystem::path KeepAside(const std::filesystem::path& file, const std::vector<DamagedPart>& parts)
 {
-    const std::filesystem::path aside = AsideName(SaveTarget(file));
+    std::filesystem::path aside = AsideName(SaveTarget(file));
     WriteStoreBytes(aside, StoreBytes({}, parts));
     return aside;
 }
