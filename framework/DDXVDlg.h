@@ -61,8 +61,7 @@ public:
 
 private:
     template <class T>
-    static void ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, UINT messageId,
-                               const NumberRule* rule);
+    static void ExchangeNumber(CDataExchange* pDX, UINT id, CGUIData<T>& value, UINT messageId, const NumberRule* rule);
     template <class T>
     static bool ReadNumber(const CWnd& control, CGUIData<T>& value);
 };
