@@ -17,7 +17,7 @@ public:
     static constexpr UINT kMsgSingleLevel = 2007;
     static constexpr UINT kMsgMetric = 2013;
     static constexpr UINT kMsgDuplicateName = 2014;
-    static constexpr UINT kNeedsTwoDependents = 2266;
+    static constexpr UINT kNeedsTwoDependents = 2268;
 
     explicit CRepeatMeasuresDlg(CWnd* parent = nullptr) : CGUIPageDlg(IDD, parent, IDC_GRID) {}
 
