@@ -1,5 +1,8 @@
 #include "Msg/MultivariateAnalysisMsg.h"
 
+#include "Msg/LaunchDialog.h"
+#include "private/Anova/KDGHypPairwiseDlg.h"
+
 namespace {
 
 const MenuCommandRow kRows[] = {
@@ -13,7 +16,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2024, CManovaBetweenDlg, CManovaBetweenData),
     KAL_MENU_ROW_UNAVAILABLE(2025, CMultivariateManovaEstimateTabDlg, CMultivariateManovaEstimateTabData, 2182),
     KAL_MENU_ROW_UNAVAILABLE(2026, CManovaHypothesisTabDlg, CManovaHypothesisTabData, 2184),
-    KAL_MENU_ROW_UNAVAILABLE(2027, CHypPairwiseDlg, CHypPairwiseData),
+    KAL_MENU_ROW(2027, CHypPairwiseDlg, CHypPairwiseData),
     KAL_MENU_ROW_UNAVAILABLE(2028, CManovaWithinDlg, CManovaWithinData),
     KAL_MENU_ROW_UNAVAILABLE(2029, CTreesTabDlg, CTreesTabData, 2318),
 };
