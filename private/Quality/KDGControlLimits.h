@@ -57,9 +57,10 @@ inline CGUIData<double> NoNumber()
     return CGUIData<double>(1, none, none, 0, 1);
 }
 
-// Tolerance limits given on both sides must be in order (0 when they
-// are), and a target given must lie within the limits given.
-inline UINT SpecLimitsOrder(const CGUIData<double>& lower, const CGUIData<double>& upper, UINT message)
+// Limits given on both sides (tolerance limits, probabilities) must be in
+// order (0 when they are), and a target given must lie within the limits
+// given.
+inline UINT LimitsOrder(const CGUIData<double>& lower, const CGUIData<double>& upper, UINT message)
 {
     return IsGiven(lower) && IsGiven(upper) && lower.m_Value >= upper.m_Value ? message : 0;
 }

@@ -122,6 +122,12 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "QC\nCAPABILITY weight*lot / LSL=495 USL=505 TARGET=500 CP PP NORMTEST\n", "2047",
          "QC\nCAPABILITY weight*lot / LSL=495 USL=505 TARGET=500 CP PP NORMTEST\n",
          "expect text 5556 495\nexpect items 5545 lot\ncancel\n", 1, "", ""},
+        {"quality-charts.kal", "tool-wear.csv",
+         "QC\nREGCHART wear = parts / SLIMITS=3,3\n"
+         "QC\nTSQUARE diameter length*batch / MEAN=[ 25 60 ] COVAR=[ 0.04 0.01; 0.01 0.09 ] DECOMPOSE\n"
+         "QC\nPARETO defect$ / CUMULATIVE OTHER=10\n",
+         "2046", "QC\nPARETO defect$ / CUMULATIVE OTHER=10\n",
+         "expect items 9002 defect$\nexpect checked 9011 1\nexpect text 9013 10\ncancel\n", 1, "", ""},
         {"run-lengths.kal", "",
          "QC\nARL XBAR / N=4 MAXSHIFT=3 STEP=0.5 L=3\nQC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "2038", "QC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
