@@ -23,7 +23,7 @@ void CMixRegEstimationDlg::DoDataExchange(CDataExchange* pDX)
 {
     CGUIPageDlg::DoDataExchange(pDX);
     if (pDX->m_bSaveAndValidate)
-        DDX_ControlWarn(pDX, IDC_CONV_EDIT, CMixedEstimationDlg::OpenUnitProblem(m_Work.m_ConvEdit.m_Value));
+        CMixedEstimationDlg::WarnOpenUnit(pDX, IDC_CONV_EDIT, m_Work.m_ConvEdit.m_Value, true);
 }
 
 void CMixRegEstimationDlg::UpdateDependentWindows()

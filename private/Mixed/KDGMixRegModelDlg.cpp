@@ -62,7 +62,10 @@ std::pair<UINT, UINT> CMixRegModelDlg::Validate() const
         return {CMixedRandomDlg::kMsgNoRandomPart, IDC_INTERCEPT_CHECK};
     if (w.m_GroupList.IsEmpty())
         return {kMsgNoGroup, IDC_GROUP_LIST};
-    if (kal::mixed::SharesVariable({&w.m_DependentList, &w.m_FixedList, &w.m_RandomList, &w.m_GroupList}))
+    // A regressor may be both fixed and random: its random slope varies
+    // around the fixed one.
+    if (kal::mixed::SharesVariable({&w.m_DependentList, &w.m_GroupList, &w.m_FixedList}) ||
+        kal::mixed::SharesVariable({&w.m_DependentList, &w.m_GroupList, &w.m_RandomList}))
         return {CHlmLevelsDlg::kMsgTwoRoles, IDC_FIXED_LIST};
     if (kal::framework::IsMatrixData())
         return {CMixedRandomDlg::kMsgMatrixData, IDC_SOURCE_LIST};

@@ -20,6 +20,12 @@ void CMixedEstimationDlg::DoDataExchange(CDataExchange* pDX)
     CGUIPageDlg::DoDataExchange(pDX);
     if (!pDX->m_bSaveAndValidate)
         return;
-    DDX_ControlWarn(pDX, IDC_CONV_EDIT, OpenUnitProblem(m_Work.m_ConvEdit.m_Value));
-    DDX_ControlWarn(pDX, IDC_CONFI_EDIT, OpenUnitProblem(m_Work.m_ConfiEdit.m_Value));
+    WarnOpenUnit(pDX, IDC_CONV_EDIT, m_Work.m_ConvEdit.m_Value, true);
+    WarnOpenUnit(pDX, IDC_CONFI_EDIT, m_Work.m_ConfiEdit.m_Value, true);
+}
+
+void CMixedEstimationDlg::WarnOpenUnit(CDataExchange* pDX, UINT id, double value, bool inUse)
+{
+    const NumberRule rule{.whole = false, .bounded = true, .min = 0, .max = 1, .minOpen = true, .maxOpen = true};
+    DDX_ControlWarn(pDX, id, inUse && !(value > 0 && value < 1) ? kMsgOutOfRange : 0, rule);
 }

@@ -16,8 +16,10 @@ public:
     void DoDataExchange(CDataExchange* pDX) override;
     const char* GetSourceFile() const override { return "Source/KDGMixedEstimationDlg"; }
 
-    // 2012 for a number not strictly inside (0, 1), else 0.
-    static UINT OpenUnitProblem(double value) { return value > 0 && value < 1 ? 0 : kMsgOutOfRange; }
+    // Refuses (message 2012, the rule in its text) a number in use that is
+    // not strictly between 0 and 1: a convergence criterion or confidence
+    // at either end means nothing.
+    static void WarnOpenUnit(CDataExchange* pDX, UINT id, double value, bool inUse);
     static constexpr UINT kMsgOutOfRange = 2012;
 
 protected:

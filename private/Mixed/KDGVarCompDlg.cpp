@@ -65,8 +65,6 @@ std::pair<UINT, UINT> CVarCompDlg::Validate() const
         return {CHlmLevelsDlg::kMsgTwoRoles, IDC_RANDOM_LIST};
     if (w.m_InteractionsCheck && static_cast<int>(w.Factors().size()) > CModelTerms::kMaxFactorialVariables)
         return {kMsgTooManyFactors, IDC_INTERACTIONS_CHECK};
-    if (w.IsIterative())
-        return {CMixedEstimationDlg::OpenUnitProblem(w.m_ConvEdit.m_Value), IDC_CONV_EDIT};
     return {0, 0};
 }
 
@@ -77,6 +75,7 @@ void CVarCompDlg::DoDataExchange(CDataExchange* pDX)
         return;
     const auto [message, control] = Validate();
     DDX_ControlWarn(pDX, control, message);
+    CMixedEstimationDlg::WarnOpenUnit(pDX, IDC_CONV_EDIT, m_Work.m_ConvEdit.m_Value, IsCtrlInUse(IDC_CONV_EDIT));
 }
 
 void CVarCompDlg::UpdateDependentWindows()
