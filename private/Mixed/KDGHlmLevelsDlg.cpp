@@ -1,6 +1,5 @@
 #include "private/Mixed/KDGHlmLevelsDlg.h"
 
-#include "framework/HostLink.h"
 #include "framework/ResourceUtil.h"
 #include "private/Mixed/KDGMixedLists.h"
 #include "private/Mixed/KDGMixedRandomDlg.h"
@@ -76,8 +75,6 @@ std::pair<UINT, UINT> CHlmLevelsDlg::Validate() const
         return {CMixedRandomDlg::kMsgNoRandomPart, IDC_INTERCEPT_CHECK};
     if (w.m_CrossLevelCheck && (w.m_SlopeList.IsEmpty() || w.m_Level2List.IsEmpty()))
         return {kMsgCrossLevel, IDC_CROSS_LEVEL_CHECK};
-    if (kal::framework::IsMatrixData())
-        return {CMixedRandomDlg::kMsgMatrixData, IDC_SOURCE_LIST};
     return {0, 0};
 }
 

@@ -4,8 +4,8 @@
 //
 // OK refuses a missing dependent variable or unit, a variable in two roles,
 // a random slope that is not a level-1 predictor, a model without a random
-// part, cross-level terms without both a random slope and a level-2
-// predictor, and matrix data.
+// part, and cross-level terms without both a random slope and a level-2
+// predictor.
 #pragma once
 
 #include "framework/GUIPageDlg.h"

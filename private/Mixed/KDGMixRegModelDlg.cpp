@@ -1,6 +1,5 @@
 #include "private/Mixed/KDGMixRegModelDlg.h"
 
-#include "framework/HostLink.h"
 #include "framework/ResourceUtil.h"
 #include "private/Mixed/KDGHlmLevelsDlg.h"
 #include "private/Mixed/KDGMixedLists.h"
@@ -67,8 +66,6 @@ std::pair<UINT, UINT> CMixRegModelDlg::Validate() const
     if (kal::mixed::SharesVariable({&w.m_DependentList, &w.m_GroupList, &w.m_FixedList}) ||
         kal::mixed::SharesVariable({&w.m_DependentList, &w.m_GroupList, &w.m_RandomList}))
         return {CHlmLevelsDlg::kMsgTwoRoles, IDC_FIXED_LIST};
-    if (kal::framework::IsMatrixData())
-        return {CMixedRandomDlg::kMsgMatrixData, IDC_SOURCE_LIST};
     return {0, 0};
 }
 

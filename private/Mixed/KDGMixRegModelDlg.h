@@ -3,8 +3,8 @@
 // to the grouping. The link decides which estimation options apply.
 //
 // OK refuses a missing dependent variable, a model without a random part,
-// random effects without groups, the dependent or grouping variable among
-// the regressors, and matrix data. A regressor may be fixed and random.
+// random effects without groups, and the dependent or grouping variable
+// among the regressors. A regressor may be fixed and random.
 #pragma once
 
 #include "framework/GUIPageDlg.h"

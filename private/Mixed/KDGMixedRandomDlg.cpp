@@ -1,7 +1,6 @@
 #include "private/Mixed/KDGMixedRandomDlg.h"
 
 #include "framework/GUITabDlg.h"
-#include "framework/HostLink.h"
 #include "framework/ResourceUtil.h"
 
 IMPLEMENT_DYNAMIC(CMixedRandomDlg, CGUIBaseDlg)
@@ -44,10 +43,9 @@ void CMixedRandomDlg::DoDataExchange(CDataExchange* pDX)
     const bool random = m_Work.m_InterceptCheck || !m_Work.m_RandomList.IsEmpty();
     DDX_ControlWarn(pDX, IDC_INTERCEPT_CHECK, random ? 0 : kMsgNoRandomPart);
     DDX_ControlWarn(pDX, IDC_SUBJECT_LIST, m_Work.m_SubjectList.IsEmpty() ? kMsgNoSubject : 0);
-    // The model page's checks that only a mixed model makes.
+    // The model page's check that only a mixed model makes.
     CGUITabDlg* tab = GetTabDlg();
     DDX_ControlWarn(pDX, IDC_SOURCE_LIST, tab && tab->GetDependentVariableCount() != 1 ? kMsgOneDependent : 0);
-    DDX_ControlWarn(pDX, IDC_SOURCE_LIST, kal::framework::IsMatrixData() ? kMsgMatrixData : 0);
 }
 
 void CMixedRandomDlg::OnReset()

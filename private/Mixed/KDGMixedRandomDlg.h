@@ -6,7 +6,7 @@
 //
 // OK refuses a model without a random part, random effects without a
 // subject, and, for the whole dialog, a model page with other than one
-// dependent variable or matrix data: a mixed model needs the cases.
+// dependent variable.
 #pragma once
 
 #include "framework/GUIPageDlg.h"
@@ -19,7 +19,6 @@ public:
     static constexpr UINT kMsgNoSubject = 8401;
     static constexpr UINT kMsgNoRandomPart = 8402;
     static constexpr UINT kMsgOneDependent = 8403;
-    static constexpr UINT kMsgMatrixData = 8404;
 
     explicit CMixedRandomDlg(CWnd* parent = nullptr);
 

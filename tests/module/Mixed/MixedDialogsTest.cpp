@@ -136,7 +136,7 @@ TEST_F(MixedDialogs, StoredSessionsWriteTheSameLinesAfterARestart)
         s.Type(CMixedEstimationDlg::IDC_ITER_EDIT, u"40");
         s.Ok();
     });
-    EXPECT_EQ(linear, (Lines16{u"MIXED", u"MODEL Y = CONSTANT+A+X+A*X", u"CATEGORY A / REPLACE",
+    EXPECT_EQ(linear, (Lines16{u"MIXED", u"MODEL Y = CONSTANT+X+A+X*A", u"CATEGORY A / REPLACE",
                                u"RANDOM INTERCEPT+X / SUBJECT = G$ TYPE = UN", u"ESTIMATE / METHOD = REML ITER = 40"}));
     ExpectRestartKeeps<CMixedModelLinearMixedModelTabData>(models, 2067, linear);
 
@@ -163,9 +163,10 @@ TEST_F(MixedDialogs, StoredSessionsWriteTheSameLinesAfterARestart)
     });
     ExpectRestartKeeps<CMixedModelVarianceComponentsTabData>(models, 2069, components);
 
-    // The test reads the linear mixed model stored above.
+    // The test offers the terms of the linear mixed model stored above.
     const Lines16 test = run(models, 2073, [](CHeadlessSession& s) {
         EXPECT_EQ(s.ComboSelection(CHypothesisDlg::IDC_EFFECT), 0);
+        s.Choose(CHypothesisDlg::IDC_EFFECT, 1);
         s.Click(CHypothesisDlg::IDC_CONTRAST_POLYNOMIAL);
         s.Page(1);
         s.Click(CMixedTestDlg::IDC_DDF_CONTAINMENT);
