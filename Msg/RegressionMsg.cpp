@@ -1,6 +1,9 @@
 #include "Msg/RegressionMsg.h"
 
 #include "Msg/LaunchDialog.h"
+#include "private/Regression/KDGLogitPostDlg.h"
+#include "private/Regression/KDGLogitQuantilesDlg.h"
+#include "private/Regression/KDGLogitSimulateDlg.h"
 #include "private/Regression/KDGLogitTabDlg.h"
 #include "private/Regression/KDGRegressionTabDlg.h"
 
@@ -9,9 +12,9 @@ namespace {
 const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2001, CTslsDlg, CTslsData),
     KAL_MENU_ROW(2004, CLogitTabDlg, CLogitTabData, 2146, 2216, 2145),
-    KAL_MENU_ROW_UNAVAILABLE(2005, CLogitPostDlg, CLogitPostData),
-    KAL_MENU_ROW_UNAVAILABLE(2006, CLogitQuantilesDlg, CLogitQuantilesData),
-    KAL_MENU_ROW_UNAVAILABLE(2007, CLogitSimulateDlg, CLogitSimulateData),
+    KAL_MENU_ROW(2005, CLogitPostDlg, CLogitPostData),
+    KAL_MENU_ROW(2006, CLogitQuantilesDlg, CLogitQuantilesData),
+    KAL_MENU_ROW(2007, CLogitSimulateDlg, CLogitSimulateData),
     KAL_MENU_ROW_UNAVAILABLE(2030, CNonLinearTabDlg, CNonLinearTabData, 1400, 2205, 2092, 2202),
     KAL_MENU_ROW_UNAVAILABLE(2031, CNonLinLossTabDlg, CNonLinLossTabData, 2204, 2203),
     KAL_MENU_ROW_UNAVAILABLE(2032, CProbitTabDlg, CProbitTabData, 2251, 2043),

@@ -42,6 +42,8 @@ std::string ModelSessionFor(const std::string& id)
     const std::string anova = "open 2008\nselect 1075 Y\nclick 1067\nok\n";
     if (id == "2011" || id == "2012" || id == "2013" || id == "2027")
         return glm;
+    if (id == "2005" || id == "2006" || id == "2007")
+        return "open 2004\nselect 2681 Y\nclick 2685\nselect 2681 X\nclick 2687\nok\n";
     return id == "2009" || id == "2077" ? anova : std::string();
 }
 

@@ -50,6 +50,9 @@ const char* const kChoiceLines = "LOGIT\n"
                                  "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
                                  "ESTIMATE / CONFI = 0.9 ITER = 100\n";
 
+const char* const kSimulationLines = "LOGIT\nSIMULATE / DRAWS = 5000 RSEED = 17\nSCENARIO income = 30\n"
+                                     "SCENARIO income = 60, age = 30\n";
+
 } // namespace
 
 TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
@@ -125,6 +128,13 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "2035", "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\n",
          // The CUSUM page shows its own controls, not the limits.
          "expect checked 5478 1\nexpect text 5488 4\nexpect visible 5470 0\ncancel\n", 1, "", ""},
+        {"logit-follow-ups.kal", "commute.csv",
+         "LOGIT\nMODEL car = CONSTANT+income+age\nESTIMATE \nLOGIT\nPREDICT / AT income = 40\nMARGINS / AVERAGE\n"
+         "CLASSIFY / CUT = 0.4\nLOGIT\nQUANTILES region / GROUPS = 5\n" +
+             std::string(kSimulationLines),
+         "2007", kSimulationLines,
+         // The model is read again: its text names it, and the scenarios are back.
+         "expect text 7542 car = income+age\nexpect text 7544 5000\nok\n", 0, "", kSimulationLines},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
