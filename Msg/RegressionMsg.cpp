@@ -5,6 +5,7 @@
 #include "private/Regression/KDGLogitQuantilesDlg.h"
 #include "private/Regression/KDGLogitSimulateDlg.h"
 #include "private/Regression/KDGLogitTabDlg.h"
+#include "private/Regression/KDGNonLinearTabDlg.h"
 #include "private/Regression/KDGRegressionTabDlg.h"
 
 namespace {
@@ -15,8 +16,8 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW(2005, CLogitPostDlg, CLogitPostData),
     KAL_MENU_ROW(2006, CLogitQuantilesDlg, CLogitQuantilesData),
     KAL_MENU_ROW(2007, CLogitSimulateDlg, CLogitSimulateData),
-    KAL_MENU_ROW_UNAVAILABLE(2030, CNonLinearTabDlg, CNonLinearTabData, 1400, 2205, 2092, 2202),
-    KAL_MENU_ROW_UNAVAILABLE(2031, CNonLinLossTabDlg, CNonLinLossTabData, 2204, 2203),
+    KAL_MENU_ROW(2030, CNonLinearTabDlg, CNonLinearTabData, 1400, 2205, 2092, 2202),
+    KAL_MENU_ROW(2031, CNonLinLossTabDlg, CNonLinLossTabData, 2204, 2203),
     KAL_MENU_ROW_UNAVAILABLE(2032, CProbitTabDlg, CProbitTabData, 2251, 2043),
     KAL_MENU_ROW_UNAVAILABLE(2050, CBayesianDlg, CBayesianData),
     KAL_MENU_ROW(2051, CRegressionTabDlg, CRegressionTabData, 2261),

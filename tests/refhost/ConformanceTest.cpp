@@ -26,6 +26,9 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "select 5591 Y\nclick 5593\n";
     if (id == "2047")
         return "select 5541 Y\nclick 5543\ntype 5558 10\n";
+    if (id == "2030" || id == "2031")
+        return "page 0\nselect 7601 Y\nclick 7602\ntype 7607 b0*X\ntype 7609 ABS(RESIDUAL)\ncell 7611 1 1 b0\n"
+               "cell 7611 1 2 1\n";
     return {};
 }
 

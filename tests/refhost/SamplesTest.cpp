@@ -53,6 +53,9 @@ const char* const kChoiceLines = "LOGIT\n"
 const char* const kSimulationLines = "LOGIT\nSIMULATE / DRAWS = 5000 RSEED = 17\nSCENARIO income = 30\n"
                                      "SCENARIO income = 60, age = 30\n";
 
+const char* const kLossLines = "NONLIN\nMODEL height = top/(1 + EXP(-rate*(days - mid)))\nLOSS = ABS(RESIDUAL)\n"
+                               "PARAMETERS top = 60, rate = 0.1, mid = 30\nESTIMATE / METHOD = SIMPLEX\n";
+
 } // namespace
 
 TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
@@ -135,6 +138,15 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "2007", kSimulationLines,
          // The model is read again: its text names it, and the scenarios are back.
          "expect text 7542 car = income+age\nexpect text 7544 5000\nok\n", 0, "", kSimulationLines},
+        {"nonlinear.kal", "growth.csv",
+         "NONLIN\nMODEL height = top/(1 + EXP(-rate*(days - mid)))\nPARAMETERS top = 60, rate = 0.1, mid = 30\n"
+         "LIMITS top >= 0\nSAVE 'growth.kvd' / RESIDUALS/DATA\nESTIMATE / METHOD = MARQUARDT ITER = 200\n" +
+             std::string(kLossLines),
+         "2031", kLossLines,
+         // The loss and the parameters are back; the start of the rate changes.
+         "expect text 7609 ABS(RESIDUAL)\ncell 7611 2 2 0.2\nok\n", 0, "",
+         "NONLIN\nMODEL height = top/(1 + EXP(-rate*(days - mid)))\nLOSS = ABS(RESIDUAL)\n"
+         "PARAMETERS top = 60, rate = 0.2, mid = 30\nESTIMATE / METHOD = SIMPLEX\n"},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
