@@ -6,7 +6,9 @@
 #include "private/Regression/KDGLogitSimulateDlg.h"
 #include "private/Regression/KDGLogitTabDlg.h"
 #include "private/Regression/KDGNonLinearTabDlg.h"
+#include "private/Regression/KDGPlsTabDlg.h"
 #include "private/Regression/KDGRegressionTabDlg.h"
+#include "private/Regression/KDGSmoothTabDlg.h"
 
 namespace {
 
@@ -26,8 +28,8 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2054, CMregLmsregTabDlg, CMregLmsregTabData, 2385, 2144),
     KAL_MENU_ROW_UNAVAILABLE(2055, CMregTabDlg, CMregTabData, 2149),
     KAL_MENU_ROW_UNAVAILABLE(2056, CRankRegressionDlg, CRankRegressionData),
-    KAL_MENU_ROW_UNAVAILABLE(2058, CSmoothTabDlg, CSmoothTabData, 2281),
-    KAL_MENU_ROW_UNAVAILABLE(2064, CPlsTabDlg, CPlsTabData, 2389),
+    KAL_MENU_ROW(2058, CSmoothTabDlg, CSmoothTabData, 2281),
+    KAL_MENU_ROW(2064, CPlsTabDlg, CPlsTabData, 2389),
     KAL_MENU_ROW_UNAVAILABLE(2070, CMregLtsTabDlg, CMregLtsTabData, 2386, 2148),
     KAL_MENU_ROW_UNAVAILABLE(2071, CMregSregTabDlg, CMregSregTabData, 2387, 2276),
     KAL_MENU_ROW_UNAVAILABLE(2072, CMregMmregTabDlg, CMregMmregTabData, 2196),

@@ -29,6 +29,10 @@ std::string ChooseRequiredVariables(const std::string& id)
     if (id == "2030" || id == "2031")
         return "page 0\nselect 7601 Y\nclick 7602\ntype 7607 b0*X\ntype 7609 ABS(RESIDUAL)\ncell 7611 1 1 b0\n"
                "cell 7611 1 2 1\n";
+    if (id == "2058")
+        return "select 7804 Y\nclick 7805\nselect 7804 X\nclick 7809\n";
+    if (id == "2064")
+        return "select 7851 Y\nclick 7852\nselect 7851 X X2\nclick 7856\n";
     return {};
 }
 

@@ -56,6 +56,11 @@ const char* const kSimulationLines = "LOGIT\nSIMULATE / DRAWS = 5000 RSEED = 17\
 const char* const kLossLines = "NONLIN\nMODEL height = top/(1 + EXP(-rate*(days - mid)))\nLOSS = ABS(RESIDUAL)\n"
                                "PARAMETERS top = 60, rate = 0.1, mid = 30\nESTIMATE / METHOD = SIMPLEX\n";
 
+const char* const kSmoothLines =
+    "SMOOTH\nMODEL height = days\nSAVE 'smoothed.kvd' / SMOOTHED\nESTIMATE / LOWESS SPAN = 0.4\n";
+
+const char* const kPlsLines = "PLS\nMODEL yield yield2 = dose+rain+weight\nESTIMATE / COMPONENTS = 3 CV = 5\n";
+
 } // namespace
 
 TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
@@ -147,6 +152,14 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "expect text 7609 ABS(RESIDUAL)\ncell 7611 2 2 0.2\nok\n", 0, "",
          "NONLIN\nMODEL height = top/(1 + EXP(-rate*(days - mid)))\nLOSS = ABS(RESIDUAL)\n"
          "PARAMETERS top = 60, rate = 0.2, mid = 30\nESTIMATE / METHOD = SIMPLEX\n"},
+        {"smooth.kal", "growth.csv", kSmoothLines, "2058", kSmoothLines,
+         // Back with the span and the file; the spline writes only its own number.
+         "expect text 7816 0.4\nexpect text 7823 smoothed.kvd\nclick 7802\nok\n", 0, "",
+         "SMOOTH\nMODEL height = days\nSAVE 'smoothed.kvd' / SMOOTHED\nESTIMATE / SPLINE\n"},
+        {"pls.kal", "plants.csv", kPlsLines, "2064", kPlsLines,
+         // Back with cross-validation; a fixed number leaves the folds out.
+         "expect checked 7862 1\nexpect items 7859 dose rain weight\nclick 7861\nok\n", 0, "",
+         "PLS\nMODEL yield yield2 = dose+rain+weight\nESTIMATE / COMPONENTS = 3\n"},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
