@@ -7,6 +7,7 @@
 #include "private/Regression/KDGLogitTabDlg.h"
 #include "private/Regression/KDGNonLinearTabDlg.h"
 #include "private/Regression/KDGPlsTabDlg.h"
+#include "private/Regression/KDGProbitTabDlg.h"
 #include "private/Regression/KDGRegressionTabDlg.h"
 #include "private/Regression/KDGSmoothTabDlg.h"
 
@@ -20,7 +21,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW(2007, CLogitSimulateDlg, CLogitSimulateData),
     KAL_MENU_ROW(2030, CNonLinearTabDlg, CNonLinearTabData, 1400, 2205, 2092, 2202),
     KAL_MENU_ROW(2031, CNonLinLossTabDlg, CNonLinLossTabData, 2204, 2203),
-    KAL_MENU_ROW_UNAVAILABLE(2032, CProbitTabDlg, CProbitTabData, 2251, 2043),
+    KAL_MENU_ROW(2032, CProbitTabDlg, CProbitTabData, 2251, 2043),
     KAL_MENU_ROW_UNAVAILABLE(2050, CBayesianDlg, CBayesianData),
     KAL_MENU_ROW(2051, CRegressionTabDlg, CRegressionTabData, 2261),
     KAL_MENU_ROW_UNAVAILABLE(2052, CRidgeRegressionDlg, CRidgeRegressionData),

@@ -61,6 +61,9 @@ const char* const kSmoothLines =
 
 const char* const kPlsLines = "PLS\nMODEL yield yield2 = dose+rain+weight\nESTIMATE / COMPONENTS = 3 CV = 5\n";
 
+const char* const kProbitLines = "PROBIT\nMODEL dead = CONSTANT+LOG10(dose) / TOTAL = total\n"
+                                 "ESTIMATE / NATURAL = ESTIMATE SAMPLE = BOOT(1000)\n";
+
 } // namespace
 
 TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
@@ -160,6 +163,10 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          // Back with cross-validation; a fixed number leaves the folds out.
          "expect checked 7862 1\nexpect items 7859 dose rain weight\nclick 7861\nok\n", 0, "",
          "PLS\nMODEL yield yield2 = dose+rain+weight\nESTIMATE / COMPONENTS = 3\n"},
+        {"probit.kal", "dose-response.csv", kProbitLines, "2032", kProbitLines,
+         // Back with counts and the bootstrap; the dose as it is.
+         "expect checked 7707 1\nexpect items 7709 total\nchoose 7722 0\nok\n", 0, "",
+         "PROBIT\nMODEL dead = CONSTANT+dose / TOTAL = total\nESTIMATE / NATURAL = ESTIMATE SAMPLE = BOOT(1000)\n"},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
