@@ -1,6 +1,7 @@
 #include "Msg/RegressionMsg.h"
 
 #include "Msg/LaunchDialog.h"
+#include "private/Regression/KDGBayesianDlg.h"
 #include "private/Regression/KDGLogitPostDlg.h"
 #include "private/Regression/KDGLogitQuantilesDlg.h"
 #include "private/Regression/KDGLogitSimulateDlg.h"
@@ -22,7 +23,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW(2030, CNonLinearTabDlg, CNonLinearTabData, 1400, 2205, 2092, 2202),
     KAL_MENU_ROW(2031, CNonLinLossTabDlg, CNonLinLossTabData, 2204, 2203),
     KAL_MENU_ROW(2032, CProbitTabDlg, CProbitTabData, 2251, 2043),
-    KAL_MENU_ROW_UNAVAILABLE(2050, CBayesianDlg, CBayesianData),
+    KAL_MENU_ROW(2050, CBayesianDlg, CBayesianData),
     KAL_MENU_ROW(2051, CRegressionTabDlg, CRegressionTabData, 2261),
     KAL_MENU_ROW_UNAVAILABLE(2052, CRidgeRegressionDlg, CRidgeRegressionData),
     KAL_MENU_ROW_UNAVAILABLE(2053, CLadregDlg, CLadregData),

@@ -35,6 +35,8 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "select 7851 Y\nclick 7852\nselect 7851 X X2\nclick 7856\n";
     if (id == "2032")
         return "page 0\nselect 7701 Y\nclick 7702\nselect 7701 X\nclick 7714\n";
+    if (id == "2050")
+        return "select 7751 Y\nclick 7752\n";
     return {};
 }
 

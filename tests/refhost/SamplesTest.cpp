@@ -64,6 +64,10 @@ const char* const kPlsLines = "PLS\nMODEL yield yield2 = dose+rain+weight\nESTIM
 const char* const kProbitLines = "PROBIT\nMODEL dead = CONSTANT+LOG10(dose) / TOTAL = total\n"
                                  "ESTIMATE / NATURAL = ESTIMATE SAMPLE = BOOT(1000)\n";
 
+const char* const kBayesLines =
+    "BAYES\nMODEL yield = CONSTANT+dose+rain\n"
+    "PRIOR / COEF = NORMAL(0, 25) VARIANCE = JEFFREYS\nESTIMATE / DRAWS = 20000 RSEED = 7\n";
+
 } // namespace
 
 TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
@@ -167,6 +171,11 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          // Back with counts and the bootstrap; the dose as it is.
          "expect checked 7707 1\nexpect items 7709 total\nchoose 7722 0\nok\n", 0, "",
          "PROBIT\nMODEL dead = CONSTANT+dose / TOTAL = total\nESTIMATE / NATURAL = ESTIMATE SAMPLE = BOOT(1000)\n"},
+        {"bayesian.kal", "plants.csv", kBayesLines, "2050", kBayesLines,
+         // Back with the normal prior; the inverse gamma states its parameters.
+         "expect checked 7763 1\nexpect text 7767 25\nclick 7770\nok\n", 0, "",
+         "BAYES\nMODEL yield = CONSTANT+dose+rain\nPRIOR / COEF = NORMAL(0, 25) VARIANCE = IGAMMA(0.01, 0.01)\n"
+         "ESTIMATE / DRAWS = 20000 RSEED = 7\n"},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
