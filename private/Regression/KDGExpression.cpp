@@ -400,7 +400,15 @@ CValueList::Result CValueList::Parse(const CString& text, const std::vector<CStr
     if (entries.size() == 1 && CString(entries.front()).Trim().IsEmpty())
         return result; // no values at all
     for (CString& entry : entries) {
-        const int equals = entry.ReverseFind(u'=');
+        // The first "=" outside quotes ends the name.
+        int equals = -1;
+        bool inQuotes = false;
+        for (int i = 0; i < entry.GetLength() && equals < 0; ++i) {
+            if (entry[i] == u'\'')
+                inQuotes = !inQuotes;
+            else if (entry[i] == u'=' && !inQuotes)
+                equals = i;
+        }
         if (equals < 0) {
             result.problem = Problem::Syntax;
             return result;

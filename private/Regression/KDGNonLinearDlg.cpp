@@ -34,6 +34,8 @@ CNonLinearDlg::CNonLinearDlg(CWnd* parent) : CGUIPageDlg(IDD, parent, IDC_GRID)
 BOOL CNonLinearDlg::OnInitDialog()
 {
     CGUIPageDlg::OnInitDialog();
+    // The row numbers need little room: the bounds stay in sight.
+    GetGrid().SetColumnWidth(0, GetGrid().GetColumnWidth(1) / 3);
     UpdateDependentWindows();
     return TRUE;
 }
