@@ -34,8 +34,13 @@ CNonLinearDlg::CNonLinearDlg(CWnd* parent) : CGUIPageDlg(IDD, parent, IDC_GRID)
 BOOL CNonLinearDlg::OnInitDialog()
 {
     CGUIPageDlg::OnInitDialog();
-    // The row numbers need little room: the bounds stay in sight.
-    GetGrid().SetColumnWidth(0, GetGrid().GetColumnWidth(1) / 3);
+    // The row numbers need little room, and the four columns of a
+    // parameter share the rest, so that the bounds stay in sight.
+    CGridCtrl& grid = GetGrid();
+    const int width = grid.GetColumnWidth(1);
+    grid.SetColumnWidth(0, width / 3);
+    for (int column = kName; column <= kUpper; ++column)
+        grid.SetColumnWidth(column, width * 3 / 4);
     UpdateDependentWindows();
     return TRUE;
 }
