@@ -68,6 +68,11 @@ const char* const kBayesLines =
     "BAYES\nMODEL yield = CONSTANT+dose+rain\n"
     "PRIOR / COEF = NORMAL(0, 25) VARIANCE = JEFFREYS\nESTIMATE / DRAWS = 20000 RSEED = 7\n";
 
+const char* const kVarCompLines = "VARCOMP\nMODEL Y = CONSTANT+A+B+A*B\nCATEGORY A B / REPLACE\nRANDOM B A*B\n"
+                                  "ESTIMATE / METHOD = REML\n";
+const char* const kMixRegLines = "MIXREG\nMODEL Y2 = CONSTANT+X+X2 / LINK = LOGISTIC\nRANDOM INTERCEPT+X2 / GROUP = B\n"
+                                 "ESTIMATE / CORRELATED QUAD = 20\n";
+
 } // namespace
 
 TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
@@ -176,6 +181,21 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "expect checked 7763 1\nexpect text 7767 25\nclick 7770\nok\n", 0, "",
          "BAYES\nMODEL yield = CONSTANT+dose+rain\nPRIOR / COEF = NORMAL(0, 25) VARIANCE = IGAMMA(0.01, 0.01)\n"
          "ESTIMATE / DRAWS = 20000 RSEED = 7\n"},
+        {"mixed-models.kal", "",
+         "MIXED\nMODEL Y = CONSTANT+A+X\nCATEGORY A / REPLACE\nRANDOM INTERCEPT+X / SUBJECT = B TYPE = UN\n"
+         "ESTIMATE / METHOD = REML\nMIXED\nHYPOTHESIS\nEFFECT = A\nCONTRAST / DIFFERENCE\nTEST / DDF = KR\n"
+         "MIXED\nMODEL Y = CONSTANT+X+X2+W+X*W / CENTER = GROUP\nRANDOM INTERCEPT+X / SUBJECT = B TYPE = UN\n"
+         "ESTIMATE / METHOD = ML\n" +
+             std::string(kVarCompLines),
+         "2069", kVarCompLines,
+         // Reopened, the factors and the method are back; without the
+         // interactions only the soils are random.
+         "expect items 8186 B\nexpect items 8190 A\nexpect combo 8198 2\ncheck 8207 0\nok\n", 0, "",
+         "VARCOMP\nMODEL Y = CONSTANT+A+B\nCATEGORY A B / REPLACE\nRANDOM B\nESTIMATE / METHOD = REML\n"},
+        {"mixed-regression.kal", "",
+         "MIXREG\nDATA T1 T2 T3 / WIDE ID = B TIMES = 0 1 3\nSAVE 'harvests-long.kvd'\n" + std::string(kMixRegLines),
+         "2015", kMixRegLines, "expect items 8250 X2\nexpect combo 8259 1\npage 1\nexpect text 8281 20\nok\n", 0, "",
+         kMixRegLines},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
