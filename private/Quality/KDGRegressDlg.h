@@ -1,4 +1,4 @@
-// CRegressDlg: the regression control chart dialog (template 9100). The
+// CRegressDlg: the regression control chart dialog (template 9199). The
 // user moves one numeric response and one numeric predictor, may give the
 // known residual sigma, and chooses the kind of limits with their bounds.
 //
