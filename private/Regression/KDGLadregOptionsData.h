@@ -48,8 +48,7 @@ public:
         using F = kal::FieldsOf<CLadregOptionsData>;
         using Ids = CLadregOptionsDlgIds;
         return std::tuple{
-            F::Value(&CLadregOptionsData::m_QuantileEdit, Ids::IDC_QUANTILE_EDIT, &GetDefaultQuantileEdit)
-                .Range(0, 1, kMsgQuantile),
+            F::Value(&CLadregOptionsData::m_QuantileEdit, Ids::IDC_QUANTILE_EDIT, &GetDefaultQuantileEdit).Range(0, 1),
             F::Value(&CLadregOptionsData::m_CiCombo, Ids::IDC_CI_COMBO, &GetDefaultCiCombo),
             F::Value(&CLadregOptionsData::m_ConfidenceEdit, Ids::IDC_CONFIDENCE_EDIT, &GetDefaultConfidenceEdit)
                 .Range(0, 1),

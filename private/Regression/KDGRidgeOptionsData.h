@@ -16,7 +16,7 @@ public:
     // The constant radio group: one value, a grid.
     static constexpr UINT kConstantRadio = 7041;
     static constexpr UINT kItemGrid = 7042;
-    static constexpr double kMaxConstant = 1e6;
+    static constexpr double kMaxConstant = 1000;
     static constexpr int kMaxGridValues = 1000;
 
     CRidgeOptionsData() { kal::ResetFields(*this); }

@@ -33,11 +33,11 @@ TEST(Handlers, RowsWithoutTheirAnalysisReportNotAvailable)
 {
     FakeHost host;
     CRegressionMsg regression(&host);
-    regression.OnKVCommand(2070);
+    regression.OnKVCommand(2064);
     ASSERT_EQ(host.messages.size(), 1u);
     EXPECT_EQ(host.messages[0], 100190500u);
     EXPECT_TRUE(host.store.empty());
-    EXPECT_NE(regression.FindRow(2070), nullptr);
+    EXPECT_NE(regression.FindRow(2064), nullptr);
     EXPECT_EQ(regression.FindRow(2002), nullptr);
 }
 

@@ -125,6 +125,22 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "2035", "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\n",
          // The CUSUM page shows its own controls, not the limits.
          "expect checked 5478 1\nexpect text 5488 4\nexpect visible 5470 0\ncancel\n", 1, "", ""},
+        {"regression-models.kal", "plants.csv",
+         "RIDGE\nMODEL yield = CONSTANT+dose+rain\nSAVE 'ridge-trace.kvd' / COEFFICIENTS\n"
+         "ESTIMATE / KGRID = 0,0.5,0.01\n"
+         "LADREG\nMODEL yield = CONSTANT+dose+rain / WEIGHT = weight\n"
+         "ESTIMATE / QUANTILE = 0.9 CI = BOOTSTRAP SAMPLES = 1000\n"
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nSAVE 'lts.kvd' / RESIDUALS/WEIGHTS\n"
+         "ESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n"
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / M WEIGHT = BISQUARE C = 4.685 SCALE = HUBER\n",
+         "2070",
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nSAVE 'lts.kvd' / RESIDUALS/WEIGHTS\n"
+         "ESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n",
+         // The trimmed fit comes back with its coverage and file; without
+         // saving only the estimation follows the model.
+         "expect items 7003 dose rain\npage 1\nexpect text 7082 0.75\nexpect text 7103 lts.kvd\n"
+         "check 7101 0\nok\n",
+         0, "", "ROBUST\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n"},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
