@@ -29,7 +29,8 @@ public:
 
     explicit CRegModelDlg(CWnd* parent = nullptr);
 
-    // The regressors the page shows now.
+    // The variables the page shows now.
+    CGUIArray<CGUIDataVariable> GetDependent() { return ListCtrl(IDC_DEPENDENT_LIST).GetVariables(); }
     CGUIArray<CGUIDataVariable> GetRegressors() { return ListCtrl(IDC_REGRESSOR_LIST).GetVariables(); }
 
     void DoDataExchange(CDataExchange* pDX) override;

@@ -132,7 +132,9 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "ESTIMATE / QUANTILE = 0.9 CI = BOOTSTRAP SAMPLES = 1000\n"
          "ROBUST\nMODEL yield = CONSTANT+dose+rain\nSAVE 'lts.kvd' / RESIDUALS/WEIGHTS\n"
          "ESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n"
-         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / M WEIGHT = BISQUARE C = 4.685 SCALE = HUBER\n",
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / M WEIGHT = BISQUARE C = 4.685 SCALE = HUBER\n"
+         "RANKREG\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / SCORES = NORMAL WEIGHTS = HBR\n"
+         "TSLS\nMODEL yield2 = CONSTANT+dose+yield\nENDOGENOUS yield\nINSTRUMENTS rain\nESTIMATE / FIRST\n",
          "2070",
          "ROBUST\nMODEL yield = CONSTANT+dose+rain\nSAVE 'lts.kvd' / RESIDUALS/WEIGHTS\n"
          "ESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n",
