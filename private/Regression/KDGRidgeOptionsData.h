@@ -1,6 +1,6 @@
 // CRidgeOptionsData: the ridge page of the ridge regression dialog. One
 // ridge constant, or a grid of constants (first, last, step) whose
-// estimates draw the ridge trace; whether the regressors are standardised
+// estimates draw the ridge trace; whether the regressors are standardized
 // first; and a file for the coefficients. Written as an optional save line
 // and the "ESTIMATE" line, whose constant or grid is always stated: it is
 // the choice the analysis is about.
