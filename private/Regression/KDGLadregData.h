@@ -1,7 +1,6 @@
 // CLadregData: the settings of the least-absolute-deviations dialog, its two
-// pages in page order: the shared model page under the module "LADREG" (it
-// needs the cases: the fit depends on each residual's sign), then the
-// estimation page.
+// pages in page order: the shared model page under the module "LADREG", then
+// the estimation page.
 #pragma once
 
 #include "framework/GUITabData.h"
@@ -12,7 +11,7 @@ class CLadregData : public CGUITabData {
     DECLARE_SERIAL(CLadregData)
 public:
     static constexpr UINT kModuleLadreg = 12977;
-    using ModelData = CRegModelDataFor<kModuleLadreg, false>;
+    using ModelData = CRegModelDataFor<kModuleLadreg>;
 
     CLadregData() { LinkPages(); }
     CLadregData(const CLadregData& other) : CLadregData() { *this = other; }

@@ -1,7 +1,6 @@
 // CRankRegressionData: the settings of rank regression, unweighted (2056)
 // and weighted (2074), each row with its own settings object: the shared
-// model page under the module "RANKREG" (ranks need the cases, so matrix
-// data are refused), then the estimation page.
+// model page under the module "RANKREG", then the estimation page.
 #pragma once
 
 #include "framework/GUITabData.h"
@@ -12,7 +11,7 @@ class CRankRegressionData : public CGUITabData {
     DECLARE_SERIAL(CRankRegressionData)
 public:
     static constexpr UINT kModuleRankreg = 12979;
-    using ModelData = CRegModelDataFor<kModuleRankreg, false>;
+    using ModelData = CRegModelDataFor<kModuleRankreg>;
 
     CRankRegressionData() { LinkPages(); }
     CRankRegressionData(const CRankRegressionData& other) : CRankRegressionData() { *this = other; }

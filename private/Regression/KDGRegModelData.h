@@ -8,8 +8,8 @@
 // own page writes the estimation line after it.
 //
 // The module is the analysis's, fixed by the tab settings that own the page
-// (see CRegModelDataFor), and so is whether the analysis can run on matrix
-// data at all: estimators that weigh single cases need the cases.
+// (see CRegModelDataFor). Matrix data are written as the linear regression
+// writes them: no constant, no case weight, the number of cases.
 #pragma once
 
 #include "framework/Fields.h"
@@ -21,17 +21,12 @@
 class CRegModelData : public CGUIBaseObj {
     DECLARE_SERIAL(CRegModelData)
 public:
-    explicit CRegModelData(UINT moduleId = 0, bool matrixAccepted = true)
-        : m_nModuleId(moduleId), m_bMatrixAccepted(matrixAccepted)
-    {
-        kal::ResetFields(*this);
-    }
+    explicit CRegModelData(UINT moduleId = 0) : m_nModuleId(moduleId) { kal::ResetFields(*this); }
 
     static CGUIData<int> GetDefaultCasesEdit() { return CGUIData<int>(0); }
     static CGUIDataWnd<int> GetDefaultIncludeConstantCheck() { return {1, 1}; }
 
     UINT GetModuleId() const { return m_nModuleId; }
-    bool IsMatrixAccepted() const { return m_bMatrixAccepted; }
     const CGUIArray<CGUIDataVariable>& GetDependentList() const { return m_DependentList; }
     const CGUIArray<CGUIDataVariable>& GetRegressorList() const { return m_RegressorList; }
 
@@ -75,7 +70,6 @@ private:
 
     // Part of the owner's type, not of the record.
     UINT m_nModuleId;
-    bool m_bMatrixAccepted;
 
     CGUIArray<CGUIDataVariable> m_SourceList;
     CGUIArray<CGUIDataVariable> m_DependentList;
@@ -86,10 +80,10 @@ private:
 };
 
 // The model page as one analysis owns it: its module (a string id of the
-// module's name) and whether it runs on matrix data are part of the type,
-// so a reset or a default-constructed copy keeps them.
-template <UINT Module, bool MatrixAccepted>
+// module's name) is part of the type, so a reset or a default-constructed
+// copy keeps it.
+template <UINT Module>
 class CRegModelDataFor : public CRegModelData {
 public:
-    CRegModelDataFor() : CRegModelData(Module, MatrixAccepted) {}
+    CRegModelDataFor() : CRegModelData(Module) {}
 };

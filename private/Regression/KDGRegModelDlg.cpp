@@ -42,8 +42,6 @@ void CRegModelDlg::DoDataExchange(CDataExchange* pDX)
 
 UINT CRegModelDlg::ValidateModel() const
 {
-    if (m_pData && !m_pData->IsMatrixAccepted() && kal::framework::IsMatrixData())
-        return kMsgNeedsCases;
     if (m_Work.m_DependentList.IsEmpty())
         return kMsgNoDependent;
     if (m_Work.m_RegressorList.IsEmpty())

@@ -6,9 +6,8 @@
 // Rules of the page:
 //  - the constant and the weight belong to ordinary data; the number of
 //    cases to matrix data;
-//  - at OK the model needs its dependent variable and a regressor, the
-//    dependent variable is not also a regressor, and an analysis that
-//    weighs single cases refuses matrix data.
+//  - at OK the model needs its dependent variable and a regressor, and the
+//    dependent variable is not also a regressor.
 //
 // An analysis's tab dialog puts this page first; its own page reads the
 // model through the tab dialog (GetModelDlg) where its rules need it.
@@ -24,7 +23,6 @@ public:
     enum : UINT { ID_MENU_DEPENDENT = 7490, ID_MENU_REGRESSOR = 7491, ID_MENU_WEIGHT = 7492 };
     static constexpr UINT kMsgNoDependent = 7020;
     static constexpr UINT kMsgNoRegressor = 7021;
-    static constexpr UINT kMsgNeedsCases = 7022;
     static constexpr UINT kMsgDependentIsRegressor = 7023;
 
     explicit CRegModelDlg(CWnd* parent = nullptr);

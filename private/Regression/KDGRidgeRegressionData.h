@@ -1,7 +1,6 @@
 // CRidgeRegressionData: the settings of the ridge regression dialog, its two
-// pages in page order: the shared model page under the module "RIDGE"
-// (matrix data welcome: ridge estimates need only the moments), then the
-// ridge page.
+// pages in page order: the shared model page under the module "RIDGE", then
+// the ridge page.
 #pragma once
 
 #include "framework/GUITabData.h"
@@ -12,7 +11,7 @@ class CRidgeRegressionData : public CGUITabData {
     DECLARE_SERIAL(CRidgeRegressionData)
 public:
     static constexpr UINT kModuleRidge = 12976;
-    using ModelData = CRegModelDataFor<kModuleRidge, true>;
+    using ModelData = CRegModelDataFor<kModuleRidge>;
 
     CRidgeRegressionData() { LinkPages(); }
     CRidgeRegressionData(const CRidgeRegressionData& other) : CRidgeRegressionData() { *this = other; }

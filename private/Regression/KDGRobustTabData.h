@@ -1,6 +1,5 @@
 // The settings of the robust regression dialogs: each holds the shared
-// model page under the module "ROBUST" (robust estimators weigh single
-// cases, so matrix data are refused) and the robust options page serving
+// model page under the module "ROBUST" and the robust options page serving
 // its estimator, in that order. One template for all of them; each menu
 // row has its own class, so that its record names it:
 //
@@ -21,7 +20,7 @@ template <RobustEstimator Estimator>
 class CRobustTabData : public CGUITabData {
 public:
     static constexpr UINT kModuleRobust = 12978;
-    using ModelData = CRegModelDataFor<kModuleRobust, false>;
+    using ModelData = CRegModelDataFor<kModuleRobust>;
     using OptionsData = CRobustOptionsDataFor<Estimator>;
 
     CRobustTabData() { LinkPages(); }

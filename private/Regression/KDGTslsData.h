@@ -1,6 +1,6 @@
 // CTslsData: the settings of two-stage least squares, its two pages in page
-// order: the shared model page under the module "TSLS" (matrix data
-// welcome: both stages need only the moments), then the instruments page.
+// order: the shared model page under the module "TSLS", then the
+// instruments page.
 #pragma once
 
 #include "framework/GUITabData.h"
@@ -11,7 +11,7 @@ class CTslsData : public CGUITabData {
     DECLARE_SERIAL(CTslsData)
 public:
     static constexpr UINT kModuleTsls = 12975;
-    using ModelData = CRegModelDataFor<kModuleTsls, true>;
+    using ModelData = CRegModelDataFor<kModuleTsls>;
 
     CTslsData() { LinkPages(); }
     CTslsData(const CTslsData& other) : CTslsData() { *this = other; }

@@ -26,6 +26,14 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "select 5591 Y\nclick 5593\n";
     if (id == "2047")
         return "select 5541 Y\nclick 5543\ntype 5558 10\n";
+    // The regressions on the shared model page; two-stage least squares
+    // also needs an endogenous regressor and its instrument.
+    const std::string model = "page 0\nselect 7001 Y\nclick 7004\nselect 7001 X\nclick 7006\n";
+    if (id == "2001")
+        return model + "page 1\nselect 7141 X\nclick 7144\nselect 7141 W\nclick 7146\n";
+    for (const char* row : {"2052", "2053", "2054", "2055", "2056", "2070", "2071", "2072", "2074", "2075", "2076"})
+        if (id == row)
+            return model;
     return {};
 }
 
