@@ -28,12 +28,12 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "select 5541 Y\nclick 5543\ntype 5558 10\n";
     // The regressions on the shared model page; two-stage least squares
     // also needs an endogenous regressor and its instrument.
-    const std::string model = "page 0\nselect 7001 Y\nclick 7004\nselect 7001 X\nclick 7006\n";
+    constexpr const char* kModel = "page 0\nselect 7001 Y\nclick 7004\nselect 7001 X\nclick 7006\n";
     if (id == "2001")
-        return model + "page 1\nselect 7141 X\nclick 7144\nselect 7141 W\nclick 7146\n";
+        return std::string(kModel) + "page 1\nselect 7141 X\nclick 7144\nselect 7141 W\nclick 7146\n";
     for (const char* row : {"2052", "2053", "2054", "2055", "2056", "2070", "2071", "2072", "2074", "2075", "2076"})
         if (id == row)
-            return model;
+            return kModel;
     return {};
 }
 
@@ -46,7 +46,7 @@ void ExpectNoAssertion(const ProcessResult& r, const std::string& what)
 // confirms one comes first, in the same store.
 std::string ModelSessionFor(const std::string& id)
 {
-    const std::string glm = "open 2010\nselect 2121 Y Y2\nclick 2123\nselect 2121 A B\nclick 2137\nok\n";
+    std::string glm = "open 2010\nselect 2121 Y Y2\nclick 2123\nselect 2121 A B\nclick 2137\nok\n";
     const std::string anova = "open 2008\nselect 1075 Y\nclick 1067\nok\n";
     if (id == "2011" || id == "2012" || id == "2013" || id == "2027")
         return glm;
