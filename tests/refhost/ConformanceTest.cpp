@@ -26,6 +26,14 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "select 5591 Y\nclick 5593\n";
     if (id == "2047")
         return "select 5541 Y\nclick 5543\ntype 5558 10\n";
+    if (id == "2023")
+        return "page 0\nselect 6501 Y Y2\nclick 6502\n";
+    if (id == "2018")
+        return "page 0\nselect 6541 Y\nclick 6542\n";
+    if (id == "2019")
+        return "page 0\nselect 6601 Y\nclick 6602\n";
+    if (id == "2020")
+        return "page 0\nselect 6641 A\nclick 6642\nselect 6641 B\nclick 6646\n";
     return {};
 }
 
