@@ -1,11 +1,12 @@
-// The records of factor analysis, the two cluster analyses and
-// correspondence analysis: the factor model page's bytes field by field, and
-// every tab's record stored again after a load giving the same bytes,
-// whatever was chosen; a record cut short throws.
+// The records of factor analysis, the two cluster analyses, correspondence
+// analysis and set correlation: the factor model page's bytes field by
+// field, and every tab's record stored again after a load giving the same
+// bytes, whatever was chosen; a record cut short throws.
 #include "private/Multivariate/KDGCoranTabData.h"
 #include "private/Multivariate/KDGFactorTabData.h"
 #include "private/Multivariate/KDGJoinTabData.h"
 #include "private/Multivariate/KDGMultivarClusterKmeansTabData.h"
+#include "private/Multivariate/KDGSetCorTabData.h"
 #include "tests/support/ArchiveBytes.h"
 #include "tests/support/DialogTesting.h"
 
@@ -87,4 +88,9 @@ TEST_F(MultivariateRecords, EveryTabStoresAgainWhatItLoads)
     coran.GetCoranData()->SetAll(Vars({u"Y", u"A"}), Vars({u"A"}), Vars({u"Y", u"Y2"}), Vars({}), Vars({u"Y2"}));
     coran.GetCoranOptionsData()->SetAll(Changed(3, 2), 4, 1, u"points.kvd");
     ExpectStoresAgainWhatItLoads(coran);
+
+    CSetCorTabData sets;
+    sets.GetSetCorData()->SetAll(Vars({u"Y"}), Vars({u"Y"}), Vars({}), Vars({u"Y2"}), Vars({u"A"}), 0, 1, 1, 0);
+    sets.GetBootStrapData()->SetAll(1, Changed(500, 1000), CBootStrapData::GetDefaultSampleSizeEdit(), Changed(9u, 0u));
+    ExpectStoresAgainWhatItLoads(sets);
 }
