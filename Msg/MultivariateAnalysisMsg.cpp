@@ -5,6 +5,7 @@
 #include "private/Multivariate/KDGFactorTabDlg.h"
 #include "private/Multivariate/KDGJoinTabDlg.h"
 #include "private/Multivariate/KDGMultivarClusterKmeansTabDlg.h"
+#include "private/Multivariate/KDGTreesTabDlg.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2026, CManovaHypothesisTabDlg, CManovaHypothesisTabData, 2184),
     KAL_MENU_ROW_UNAVAILABLE(2027, CHypPairwiseDlg, CHypPairwiseData),
     KAL_MENU_ROW_UNAVAILABLE(2028, CManovaWithinDlg, CManovaWithinData),
-    KAL_MENU_ROW_UNAVAILABLE(2029, CTreesTabDlg, CTreesTabData, 2318),
+    KAL_MENU_ROW(2029, CTreesTabDlg, CTreesTabData, 2318),
 };
 
 } // namespace
