@@ -36,6 +36,8 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "page 0\nselect 6641 A\nclick 6642\nselect 6641 B\nclick 6646\n";
     if (id == "2057")
         return "page 0\nselect 6681 Y\nclick 6682\nselect 6681 X\nclick 6690\n";
+    if (id == "2029")
+        return "page 0\nselect 6721 B\nclick 6722\nselect 6721 X\nclick 6728\n";
     return {};
 }
 

@@ -137,7 +137,8 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "KMEANS height girth crown yield / NUMBER = 4 DISTANCE = EUCLIDEAN STANDARDIZE INIT = RANDOM RSEED = 1234\n" +
              std::string(kCoranLines) +
              "SETCOR\nMODEL yield sugar acidity = height girth crown / XPARTIAL = tree\n"
-             "ESTIMATE / RAO PILLAI SAMPLE = BOOT(500)\n",
+             "ESTIMATE / RAO PILLAI SAMPLE = BOOT(500)\n"
+             "TREES\nMODEL grade$ = variety$ height girth crown\nESTIMATE / CLASS PRUNE\n",
          "2020", kCoranLines,
          // Reopened, both pages show the last choices.
          "expect items 6645 variety$\nexpect items 6657 count\npage 1\nexpect combo 6664 3\ncancel\n", 1, "", ""},

@@ -1,12 +1,13 @@
 // The records of factor analysis, the two cluster analyses, correspondence
-// analysis and set correlation: the factor model page's bytes field by
-// field, and every tab's record stored again after a load giving the same
-// bytes, whatever was chosen; a record cut short throws.
+// analysis, set correlation and trees: the factor model page's bytes field
+// by field, and every tab's record stored again after a load giving the
+// same bytes, whatever was chosen; a record cut short throws.
 #include "private/Multivariate/KDGCoranTabData.h"
 #include "private/Multivariate/KDGFactorTabData.h"
 #include "private/Multivariate/KDGJoinTabData.h"
 #include "private/Multivariate/KDGMultivarClusterKmeansTabData.h"
 #include "private/Multivariate/KDGSetCorTabData.h"
+#include "private/Multivariate/KDGTreesTabData.h"
 #include "tests/support/ArchiveBytes.h"
 #include "tests/support/DialogTesting.h"
 
@@ -93,4 +94,10 @@ TEST_F(MultivariateRecords, EveryTabStoresAgainWhatItLoads)
     sets.GetSetCorData()->SetAll(Vars({u"Y"}), Vars({u"Y"}), Vars({}), Vars({u"Y2"}), Vars({u"A"}), 0, 1, 1, 0);
     sets.GetBootStrapData()->SetAll(1, Changed(500, 1000), CBootStrapData::GetDefaultSampleSizeEdit(), Changed(9u, 0u));
     ExpectStoresAgainWhatItLoads(sets);
+
+    CTreesTabData trees;
+    trees.GetTreesData()->SetAll(Vars({u"A"}), Vars({u"Y"}), Vars({u"A", u"Y2"}), 1, 1, 2, u"leaves.kvd");
+    trees.GetTreesOptionsData()->SetAll(2, 1, Changed(8, 5), CTreesOptionsData::GetDefaultDepthEdit(), 1,
+                                        Changed(5, 10));
+    ExpectStoresAgainWhatItLoads(trees);
 }
