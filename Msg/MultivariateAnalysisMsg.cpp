@@ -1,6 +1,7 @@
 #include "Msg/MultivariateAnalysisMsg.h"
 
 #include "Msg/LaunchDialog.h"
+#include "private/Multivariate/KDGAddTreeDlg.h"
 #include "private/Multivariate/KDGCoranTabDlg.h"
 #include "private/Multivariate/KDGFactorTabDlg.h"
 #include "private/Multivariate/KDGJoinTabDlg.h"
@@ -10,7 +11,7 @@
 namespace {
 
 const MenuCommandRow kRows[] = {
-    KAL_MENU_ROW_UNAVAILABLE(2017, CAddTreeDlg, CAddTreeData),
+    KAL_MENU_ROW(2017, CAddTreeDlg, CAddTreeData),
     KAL_MENU_ROW(2018, CJoinTabDlg, CJoinTabData, 2107, 2266, 2375),
     KAL_MENU_ROW(2019, CMultivarClusterKmeansTabDlg, CMultivarClusterKmeansTabData, 2394, 2374),
     KAL_MENU_ROW(2020, CCoranTabDlg, CCoranTabData, 2056),
