@@ -38,6 +38,8 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "page 0\nselect 6681 Y\nclick 6682\nselect 6681 X\nclick 6690\n";
     if (id == "2029")
         return "page 0\nselect 6721 B\nclick 6722\nselect 6721 X\nclick 6728\n";
+    if (id == "2017")
+        return "select 6781 Y Y2 X\nclick 6782\n";
     return {};
 }
 

@@ -138,7 +138,8 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
              std::string(kCoranLines) +
              "SETCOR\nMODEL yield sugar acidity = height girth crown / XPARTIAL = tree\n"
              "ESTIMATE / RAO PILLAI SAMPLE = BOOT(500)\n"
-             "TREES\nMODEL grade$ = variety$ height girth crown\nESTIMATE / CLASS PRUNE\n",
+             "TREES\nMODEL grade$ = variety$ height girth crown\nESTIMATE / CLASS PRUNE\n"
+             "CLUSTER\nADDTREE height girth crown yield sugar acidity / DISTANCE = PEARSON FITTED\n",
          "2020", kCoranLines,
          // Reopened, both pages show the last choices.
          "expect items 6645 variety$\nexpect items 6657 count\npage 1\nexpect combo 6664 3\ncancel\n", 1, "", ""},

@@ -1,7 +1,8 @@
 // The records of factor analysis, the two cluster analyses, correspondence
-// analysis, set correlation and trees: the factor model page's bytes field
-// by field, and every tab's record stored again after a load giving the
-// same bytes, whatever was chosen; a record cut short throws.
+// analysis, set correlation and both kinds of trees: the factor model page's
+// bytes field by field, and every record stored again after a load giving
+// the same bytes, whatever was chosen; a record cut short throws.
+#include "private/Multivariate/KDGAddTreeData.h"
 #include "private/Multivariate/KDGCoranTabData.h"
 #include "private/Multivariate/KDGFactorTabData.h"
 #include "private/Multivariate/KDGJoinTabData.h"
@@ -64,7 +65,7 @@ TEST_F(MultivariateRecords, TheFactorModelPageIsItsChoicesTheFileTheListsThenThe
     EXPECT_EQ(LinesOf(back), (Lines16{u"FACTOR", u"SAVE 'f.kvd' / LOADINGS", u"MODEL Y Y2", u"ESTIMATE / MLA COVA"}));
 }
 
-TEST_F(MultivariateRecords, EveryTabStoresAgainWhatItLoads)
+TEST_F(MultivariateRecords, EveryRecordStoresAgainWhatItLoads)
 {
     CFactorTabData factor;
     factor.GetFactorOptionsData()->SetAll(1, Changed(0.5, 1.0), Changed(3, 2), 2, Changed(0.5, 0.0), Changed(50, 25),
@@ -100,4 +101,8 @@ TEST_F(MultivariateRecords, EveryTabStoresAgainWhatItLoads)
     trees.GetTreesOptionsData()->SetAll(2, 1, Changed(8, 5), CTreesOptionsData::GetDefaultDepthEdit(), 1,
                                         Changed(5, 10));
     ExpectStoresAgainWhatItLoads(trees);
+
+    CAddTreeData additive;
+    additive.SetAll(Vars({u"Y"}), Vars({u"Y", u"Y2", u"A"}), 1, 1, 4, Changed(1.5, 3.0), 1, 1, u"fitted.kvd");
+    ExpectStoresAgainWhatItLoads(additive);
 }
