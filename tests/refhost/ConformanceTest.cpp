@@ -40,6 +40,17 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "page 0\nselect 6721 B\nclick 6722\nselect 6721 X\nclick 6728\n";
     if (id == "2017")
         return "select 6781 Y Y2 X\nclick 6782\n";
+    if (id == "2030" || id == "2031")
+        return "page 0\nselect 7601 Y\nclick 7602\ntype 7607 b0*X\ntype 7609 ABS(RESIDUAL)\ncell 7611 1 1 b0\n"
+               "cell 7611 1 2 1\n";
+    if (id == "2058")
+        return "select 7804 Y\nclick 7805\nselect 7804 X\nclick 7809\n";
+    if (id == "2064")
+        return "select 7851 Y\nclick 7852\nselect 7851 X X2\nclick 7856\n";
+    if (id == "2032")
+        return "page 0\nselect 7701 Y\nclick 7702\nselect 7701 X\nclick 7714\n";
+    if (id == "2050")
+        return "select 7751 Y\nclick 7752\n";
     return {};
 }
 
@@ -56,6 +67,8 @@ std::string ModelSessionFor(const std::string& id)
     const std::string anova = "open 2008\nselect 1075 Y\nclick 1067\nok\n";
     if (id == "2011" || id == "2012" || id == "2013" || id == "2027")
         return glm;
+    if (id == "2005" || id == "2006" || id == "2007")
+        return "open 2004\nselect 2681 Y\nclick 2685\nselect 2681 X\nclick 2687\nok\n";
     return id == "2009" || id == "2077" ? anova : std::string();
 }
 

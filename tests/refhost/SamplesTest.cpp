@@ -53,6 +53,24 @@ const char* const kChoiceLines = "LOGIT\n"
 const char* const kCoranLines =
     "CORAN\nFREQ count\nMODEL variety$ = grade$\nESTIMATE / SUPPLEMENTARY = region$ NORMALIZE = PRINCIPAL\n";
 
+const char* const kSimulationLines = "LOGIT\nSIMULATE / DRAWS = 5000 RSEED = 17\nSCENARIO income = 30\n"
+                                     "SCENARIO income = 60, age = 30\n";
+
+const char* const kLossLines = "NONLIN\nMODEL height = top/(1 + EXP(-rate*(days - mid)))\nLOSS = ABS(RESIDUAL)\n"
+                               "PARAMETERS top = 60, rate = 0.1, mid = 30\nESTIMATE / METHOD = SIMPLEX\n";
+
+const char* const kSmoothLines =
+    "SMOOTH\nMODEL height = days\nSAVE 'smoothed.kvd' / SMOOTHED\nESTIMATE / LOWESS SPAN = 0.4\n";
+
+const char* const kPlsLines = "PLS\nMODEL yield yield2 = dose+rain+weight\nESTIMATE / COMPONENTS = 3 CV = 5\n";
+
+const char* const kProbitLines = "PROBIT\nMODEL dead = CONSTANT+LOG10(dose) / TOTAL = total\n"
+                                 "ESTIMATE / NATURAL = ESTIMATE SAMPLE = BOOT(1000)\n";
+
+const char* const kBayesLines =
+    "BAYES\nMODEL yield = CONSTANT+dose+rain\n"
+    "PRIOR / COEF = NORMAL(0, 25) VARIANCE = JEFFREYS\nESTIMATE / DRAWS = 20000 RSEED = 7\n";
+
 } // namespace
 
 TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
@@ -143,6 +161,39 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "2020", kCoranLines,
          // Reopened, both pages show the last choices.
          "expect items 6645 variety$\nexpect items 6657 count\npage 1\nexpect combo 6664 3\ncancel\n", 1, "", ""},
+        {"logit-follow-ups.kal", "commute.csv",
+         "LOGIT\nMODEL car = CONSTANT+income+age\nESTIMATE \nLOGIT\nPREDICT / AT income = 40\nMARGINS / AVERAGE\n"
+         "CLASSIFY / CUT = 0.4\nLOGIT\nQUANTILES region / GROUPS = 5\n" +
+             std::string(kSimulationLines),
+         "2007", kSimulationLines,
+         // The model is read again: its text names it, and the scenarios are back.
+         "expect text 7542 car = income+age\nexpect text 7544 5000\nok\n", 0, "", kSimulationLines},
+        {"nonlinear.kal", "growth.csv",
+         "NONLIN\nMODEL height = top/(1 + EXP(-rate*(days - mid)))\nPARAMETERS top = 60, rate = 0.1, mid = 30\n"
+         "LIMITS top >= 0\nSAVE 'growth.kvd' / RESIDUALS/DATA\nESTIMATE / METHOD = MARQUARDT ITER = 200\n" +
+             std::string(kLossLines),
+         "2031", kLossLines,
+         // The loss and the parameters are back; the start of the rate changes.
+         "expect text 7609 ABS(RESIDUAL)\ncell 7611 2 2 0.2\nok\n", 0, "",
+         "NONLIN\nMODEL height = top/(1 + EXP(-rate*(days - mid)))\nLOSS = ABS(RESIDUAL)\n"
+         "PARAMETERS top = 60, rate = 0.2, mid = 30\nESTIMATE / METHOD = SIMPLEX\n"},
+        {"smooth.kal", "growth.csv", kSmoothLines, "2058", kSmoothLines,
+         // Back with the span and the file; the spline writes only its own number.
+         "expect text 7816 0.4\nexpect text 7823 smoothed.kvd\nclick 7802\nok\n", 0, "",
+         "SMOOTH\nMODEL height = days\nSAVE 'smoothed.kvd' / SMOOTHED\nESTIMATE / SPLINE\n"},
+        {"pls.kal", "plants.csv", kPlsLines, "2064", kPlsLines,
+         // Back with cross-validation; a fixed number leaves the folds out.
+         "expect checked 7862 1\nexpect items 7859 dose rain weight\nclick 7861\nok\n", 0, "",
+         "PLS\nMODEL yield yield2 = dose+rain+weight\nESTIMATE / COMPONENTS = 3\n"},
+        {"probit.kal", "dose-response.csv", kProbitLines, "2032", kProbitLines,
+         // Back with counts and the bootstrap; the dose as it is.
+         "expect checked 7707 1\nexpect items 7709 total\nchoose 7722 0\nok\n", 0, "",
+         "PROBIT\nMODEL dead = CONSTANT+dose / TOTAL = total\nESTIMATE / NATURAL = ESTIMATE SAMPLE = BOOT(1000)\n"},
+        {"bayesian.kal", "plants.csv", kBayesLines, "2050", kBayesLines,
+         // Back with the normal prior; the inverse gamma states its parameters.
+         "expect checked 7763 1\nexpect text 7767 25\nclick 7770\nok\n", 0, "",
+         "BAYES\nMODEL yield = CONSTANT+dose+rain\nPRIOR / COEF = NORMAL(0, 25) VARIANCE = IGAMMA(0.01, 0.01)\n"
+         "ESTIMATE / DRAWS = 20000 RSEED = 7\n"},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
