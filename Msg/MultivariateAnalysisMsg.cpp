@@ -1,5 +1,8 @@
 #include "Msg/MultivariateAnalysisMsg.h"
 
+#include "Msg/LaunchDialog.h"
+#include "private/Multivariate/KDGMultivariateManovaEstimateTabDlg.h"
+
 namespace {
 
 const MenuCommandRow kRows[] = {
@@ -11,7 +14,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2022, CRdiscrimDlg, CRdiscrimData),
     KAL_MENU_ROW_UNAVAILABLE(2023, CFactorTabDlg, CFactorTabData, 2074),
     KAL_MENU_ROW_UNAVAILABLE(2024, CManovaBetweenDlg, CManovaBetweenData),
-    KAL_MENU_ROW_UNAVAILABLE(2025, CMultivariateManovaEstimateTabDlg, CMultivariateManovaEstimateTabData, 2182),
+    KAL_MENU_ROW(2025, CMultivariateManovaEstimateTabDlg, CMultivariateManovaEstimateTabData, 2182),
     KAL_MENU_ROW_UNAVAILABLE(2026, CManovaHypothesisTabDlg, CManovaHypothesisTabData, 2184),
     KAL_MENU_ROW_UNAVAILABLE(2027, CHypPairwiseDlg, CHypPairwiseData),
     KAL_MENU_ROW_UNAVAILABLE(2028, CManovaWithinDlg, CManovaWithinData),
