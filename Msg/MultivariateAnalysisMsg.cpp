@@ -1,6 +1,7 @@
 #include "Msg/MultivariateAnalysisMsg.h"
 
 #include "Msg/LaunchDialog.h"
+#include "private/Multivariate/KDGManovaBetweenDlg.h"
 #include "private/Multivariate/KDGMultivariateManovaEstimateTabDlg.h"
 
 namespace {
@@ -13,7 +14,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2021, CDiscrimTabDlg, CDiscrimTabData, 2065, 2211),
     KAL_MENU_ROW_UNAVAILABLE(2022, CRdiscrimDlg, CRdiscrimData),
     KAL_MENU_ROW_UNAVAILABLE(2023, CFactorTabDlg, CFactorTabData, 2074),
-    KAL_MENU_ROW_UNAVAILABLE(2024, CManovaBetweenDlg, CManovaBetweenData),
+    KAL_MENU_ROW(2024, CManovaBetweenDlg, CManovaBetweenData),
     KAL_MENU_ROW(2025, CMultivariateManovaEstimateTabDlg, CMultivariateManovaEstimateTabData, 2182),
     KAL_MENU_ROW_UNAVAILABLE(2026, CManovaHypothesisTabDlg, CManovaHypothesisTabData, 2184),
     KAL_MENU_ROW_UNAVAILABLE(2027, CHypPairwiseDlg, CHypPairwiseData),

@@ -26,6 +26,8 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "select 5591 Y\nclick 5593\n";
     if (id == "2047")
         return "select 5541 Y\nclick 5543\ntype 5558 10\n";
+    if (id == "2024")
+        return "select 6001 Y Y2\nclick 6003\nselect 6001 A\nclick 6007\n";
     if (id == "2025")
         return "page 0\nselect 2121 Y Y2\nclick 2123\n";
     return {};
