@@ -2,6 +2,7 @@
 
 #include "Msg/LaunchDialog.h"
 #include "private/Multivariate/KDGManovaBetweenDlg.h"
+#include "private/Multivariate/KDGManovaHypothesisTabDlg.h"
 #include "private/Multivariate/KDGMultivariateManovaEstimateTabDlg.h"
 
 namespace {
@@ -16,7 +17,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2023, CFactorTabDlg, CFactorTabData, 2074),
     KAL_MENU_ROW(2024, CManovaBetweenDlg, CManovaBetweenData),
     KAL_MENU_ROW(2025, CMultivariateManovaEstimateTabDlg, CMultivariateManovaEstimateTabData, 2182),
-    KAL_MENU_ROW_UNAVAILABLE(2026, CManovaHypothesisTabDlg, CManovaHypothesisTabData, 2184),
+    KAL_MENU_ROW(2026, CManovaHypothesisTabDlg, CManovaHypothesisTabData, 2184),
     KAL_MENU_ROW_UNAVAILABLE(2027, CHypPairwiseDlg, CHypPairwiseData),
     KAL_MENU_ROW_UNAVAILABLE(2028, CManovaWithinDlg, CManovaWithinData),
     KAL_MENU_ROW_UNAVAILABLE(2029, CTreesTabDlg, CTreesTabData, 2318),

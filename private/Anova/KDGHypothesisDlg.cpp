@@ -5,6 +5,7 @@
 #include "framework/ResourceUtil.h"
 #include "private/Anova/KDGMatrixText.h"
 #include "private/Anova/KDGModelTerms.h"
+#include "private/Multivariate/KDGMultivariateManovaEstimateTabData.h"
 
 #include <cmath>
 #include <unordered_set>
@@ -67,8 +68,12 @@ void ExchangeChoice(CDataExchange* pDX, CComboBox* combo, CString& text)
 
 BOOL CHypothesisDlg::OnInitDialog()
 {
-    if (m_pData)
-        m_Model = CLastModel::For(CLastModel::TestCommandOf(*m_pData));
+    if (m_pData) {
+        const UINT command = CLastModel::TestCommandOf(*m_pData);
+        m_Model = CLastModel::For(command);
+        m_nNoModelMessage =
+            CLastModel::ModuleId(command) == CManovaModelData::kModuleManova ? kMsgNoMultivariateModel : kMsgNoModel;
+    }
     FillTerms(*this, IDC_EFFECT, m_Model);
     CGUIPageDlg::OnInitDialog();
     GetGrid().SetColumnWidth(0, GetGrid().GetColumnWidth(1) / 4);
@@ -93,7 +98,8 @@ void CHypothesisDlg::DoDataExchange(CDataExchange* pDX)
             m_Work.m_Rows.Add(text);
     }
     const UINT problem = Validate();
-    DDX_ControlWarn(pDX, problem == kMsgNoModel || problem == kMsgUnknownVariable ? IDC_EFFECT : IDC_GRID, problem);
+    const bool onEffect = problem == m_nNoModelMessage || problem == kMsgUnknownVariable;
+    DDX_ControlWarn(pDX, onEffect ? IDC_EFFECT : IDC_GRID, problem);
 }
 
 UINT CHypothesisDlg::MatrixProblem(const CString& text)
@@ -126,7 +132,7 @@ UINT CHypothesisDlg::TermProblem(const CString& term)
 UINT CHypothesisDlg::Validate() const
 {
     if (!m_Model.IsEstimated())
-        return kMsgNoModel;
+        return m_nNoModelMessage;
     const CGUIArray<CString>& rows = m_Work.m_Rows;
     if (m_Work.IsSpecify()) {
         for (const CString& row : rows)

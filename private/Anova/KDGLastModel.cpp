@@ -5,11 +5,13 @@
 #include "private/Anova/KDGAnovaTabData.h"
 #include "private/Anova/KDGGLMTabData.h"
 #include "private/Anova/KDGModelTerms.h"
+#include "private/Multivariate/KDGMultivariateManovaEstimateTabData.h"
 
 namespace {
 
 constexpr UINT kGlmCommand = 2010;
 constexpr UINT kAnovaCommand = 2008;
+constexpr UINT kManovaCommand = 2025;
 
 std::vector<CString> NamesOf(const CGUIArray<CGUIDataVariable>& list)
 {
@@ -30,6 +32,7 @@ UINT CLastModel::ModelCommand(UINT testCommand)
     case 2027: return kGlmCommand;
     case 2009:
     case 2077: return kAnovaCommand;
+    case 2026: return kManovaCommand;
     default: return 0;
     }
 }
@@ -43,7 +46,11 @@ UINT CLastModel::TestCommandOf(const CGUIBaseObj& page)
 
 UINT CLastModel::ModuleId(UINT testCommand)
 {
-    return ModelCommand(testCommand) == kAnovaCommand ? CAnovaData::kModuleAnova : CGLMData::kModuleGlm;
+    switch (ModelCommand(testCommand)) {
+    case kAnovaCommand: return CAnovaData::kModuleAnova;
+    case kManovaCommand: return CManovaModelData::kModuleManova;
+    default: return CGLMData::kModuleGlm;
+    }
 }
 
 CLastModel CLastModel::For(UINT testCommand)
@@ -52,8 +59,13 @@ CLastModel CLastModel::For(UINT testCommand)
     IGlobal* host = kal::framework::Host();
     const UINT command = ModelCommand(testCommand);
     CGUIBaseObj* stored = host && command ? host->GetSettings(command) : nullptr;
-    if (auto* glm = dynamic_cast<CGLMTabData*>(stored)) {
-        const CGLMData& page = *glm->GetGLMData();
+    const CGLMData* linear = nullptr;
+    if (auto* glm = dynamic_cast<CGLMTabData*>(stored))
+        linear = glm->GetGLMData();
+    else if (auto* manova = dynamic_cast<CMultivariateManovaEstimateTabData*>(stored))
+        linear = &manova->GetModel();
+    if (linear) {
+        const CGLMData& page = *linear;
         model.m_Dependents = page.GetDependentList();
         model.m_Terms = page.GetTerms();
         const std::vector<CString> categorical = NamesOf(page.GetCategoryList());

@@ -46,6 +46,8 @@ std::string ModelSessionFor(const std::string& id)
     const std::string anova = "open 2008\nselect 1075 Y\nclick 1067\nok\n";
     if (id == "2011" || id == "2012" || id == "2013" || id == "2027")
         return glm;
+    if (id == "2026")
+        return "open 2025\nselect 2121 Y Y2\nclick 2123\nselect 2121 A B\nclick 2137\nok\n";
     return id == "2009" || id == "2077" ? anova : std::string();
 }
 

@@ -50,6 +50,9 @@ const char* const kChoiceLines = "LOGIT\n"
                                  "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
                                  "ESTIMATE / CONFI = 0.9 ITER = 100\n";
 
+const char* const kManovaTestLines =
+    "MANOVA\nHYPOTHESIS\nEFFECT = A\nCONTRAST / DIFFERENCE\nERROR 'B'\nTEST / MTEST = WILKS, PILLAI\n";
+
 } // namespace
 
 TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
@@ -119,6 +122,15 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "QC\nARL XBAR / N=4 MAXSHIFT=3 STEP=0.5 L=3\nQC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "2038", "QC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "expect combo 5512 1\nexpect text 5519 \"&Parameter λ (weight):\"\nexpect text 5513 5\ncancel\n", 1, "", ""},
+        {"manova.kal", "",
+         "MANOVA\nMODEL T1 T2 T3 = CONSTANT+A+B/ REPEAT = 3, NAMES = time\nCATEGORY A B / REPLACE\n"
+         "ESTIMATE / SS = TYPE3\nMANOVA\nDEPEND Y Y2\nCATEGORY A B / REPLACE\nCOVAR X\n"
+         "ESTIMATE / MTEST = WILKS, PILLAI CONTRAST = DIFFERENCE\n" +
+             std::string(kManovaTestLines),
+         "2026", kManovaTestLines,
+         // The test comes back with its choices, over the model it was made for.
+         "expect checked 2187 1\npage 1\nexpect checked 2205 1\npage 2\nexpect checked 6044 0\nok\n", 0, "",
+         kManovaTestLines},
         {"time-weighted.kal", "fill-weights.csv",
          "QC\nEWMA weight*lot / LAMBDA=0.1 TARGET=500 SLIMITS=2.7,2.7\n"
          "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\nQC\nMA weight*lot / SPAN=4 PLIMITS=0,0  TEST = 1 2 \n",
