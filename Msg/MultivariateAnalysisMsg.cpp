@@ -1,6 +1,7 @@
 #include "Msg/MultivariateAnalysisMsg.h"
 
 #include "Msg/LaunchDialog.h"
+#include "private/Multivariate/KDGDiscrimTabDlg.h"
 #include "private/Multivariate/KDGManovaBetweenDlg.h"
 #include "private/Multivariate/KDGManovaHypothesisTabDlg.h"
 #include "private/Multivariate/KDGMultivariateManovaEstimateTabDlg.h"
@@ -12,7 +13,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2018, CJoinTabDlg, CJoinTabData, 2107, 2266, 2375),
     KAL_MENU_ROW_UNAVAILABLE(2019, CMultivarClusterKmeansTabDlg, CMultivarClusterKmeansTabData, 2394, 2374),
     KAL_MENU_ROW_UNAVAILABLE(2020, CCoranTabDlg, CCoranTabData, 2056),
-    KAL_MENU_ROW_UNAVAILABLE(2021, CDiscrimTabDlg, CDiscrimTabData, 2065, 2211),
+    KAL_MENU_ROW(2021, CDiscrimTabDlg, CDiscrimTabData, 2065, 2211),
     KAL_MENU_ROW_UNAVAILABLE(2022, CRdiscrimDlg, CRdiscrimData),
     KAL_MENU_ROW_UNAVAILABLE(2023, CFactorTabDlg, CFactorTabData, 2074),
     KAL_MENU_ROW(2024, CManovaBetweenDlg, CManovaBetweenData),

@@ -50,6 +50,8 @@ const char* const kChoiceLines = "LOGIT\n"
                                  "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
                                  "ESTIMATE / CONFI = 0.9 ITER = 100\n";
 
+const char* const kDiscrimLines =
+    "DISCRIM\nMODEL B = X+X2+W / CROSSVALIDATE\nPRIORS 0.2 0.3 0.5\nSTART / FORWARD\nSTEP / AUTO\nSTOP \n";
 const char* const kManovaTestLines =
     "MANOVA\nHYPOTHESIS\nEFFECT = A\nCONTRAST / DIFFERENCE\nERROR 'B'\nTEST / MTEST = WILKS, PILLAI\n";
 
@@ -122,6 +124,10 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "QC\nARL XBAR / N=4 MAXSHIFT=3 STEP=0.5 L=3\nQC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "2038", "QC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "expect combo 5512 1\nexpect text 5519 \"&Parameter λ (weight):\"\nexpect text 5513 5\ncancel\n", 1, "", ""},
+        {"discrim.kal", "", kDiscrimLines, "2021", kDiscrimLines,
+         // Reopened, the roles, priors and the stepwise choice come back.
+         "expect items 6106 X X2 W\nexpect text 6115 \"0.2 0.3 0.5\"\npage 1\nexpect checked 4163 1\nok\n", 0, "",
+         kDiscrimLines},
         {"manova.kal", "",
          "MANOVA\nMODEL T1 T2 T3 = CONSTANT+A+B/ REPEAT = 3, NAMES = time\nCATEGORY A B / REPLACE\n"
          "ESTIMATE / SS = TYPE3\nMANOVA\nDEPEND Y Y2\nCATEGORY A B / REPLACE\nCOVAR X\n"
