@@ -5,6 +5,7 @@
 #include "private/Multivariate/KDGManovaBetweenDlg.h"
 #include "private/Multivariate/KDGManovaHypothesisTabDlg.h"
 #include "private/Multivariate/KDGMultivariateManovaEstimateTabDlg.h"
+#include "private/Multivariate/KDGRdiscrimDlg.h"
 
 namespace {
 
@@ -14,7 +15,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW_UNAVAILABLE(2019, CMultivarClusterKmeansTabDlg, CMultivarClusterKmeansTabData, 2394, 2374),
     KAL_MENU_ROW_UNAVAILABLE(2020, CCoranTabDlg, CCoranTabData, 2056),
     KAL_MENU_ROW(2021, CDiscrimTabDlg, CDiscrimTabData, 2065, 2211),
-    KAL_MENU_ROW_UNAVAILABLE(2022, CRdiscrimDlg, CRdiscrimData),
+    KAL_MENU_ROW(2022, CRdiscrimDlg, CRdiscrimData),
     KAL_MENU_ROW_UNAVAILABLE(2023, CFactorTabDlg, CFactorTabData, 2074),
     KAL_MENU_ROW(2024, CManovaBetweenDlg, CManovaBetweenData),
     KAL_MENU_ROW(2025, CMultivariateManovaEstimateTabDlg, CMultivariateManovaEstimateTabData, 2182),

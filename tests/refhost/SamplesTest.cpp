@@ -52,6 +52,7 @@ const char* const kChoiceLines = "LOGIT\n"
 
 const char* const kDiscrimLines =
     "DISCRIM\nMODEL B = X+X2+W / CROSSVALIDATE\nPRIORS 0.2 0.3 0.5\nSTART / FORWARD\nSTEP / AUTO\nSTOP \n";
+const char* const kRobustLines = "DISCRIM\nMODEL B = X+X2+W / ROBUST = MCD TRIM = 0.1\nPRIORS / SAMPLE\nESTIMATE\n";
 const char* const kManovaTestLines =
     "MANOVA\nHYPOTHESIS\nEFFECT = A\nCONTRAST / DIFFERENCE\nERROR 'B'\nTEST / MTEST = WILKS, PILLAI\n";
 
@@ -124,10 +125,9 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "QC\nARL XBAR / N=4 MAXSHIFT=3 STEP=0.5 L=3\nQC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "2038", "QC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "expect combo 5512 1\nexpect text 5519 \"&Parameter λ (weight):\"\nexpect text 5513 5\ncancel\n", 1, "", ""},
-        {"discrim.kal", "", kDiscrimLines, "2021", kDiscrimLines,
-         // Reopened, the roles, priors and the stepwise choice come back.
-         "expect items 6106 X X2 W\nexpect text 6115 \"0.2 0.3 0.5\"\npage 1\nexpect checked 4163 1\nok\n", 0, "",
-         kDiscrimLines},
+        {"discrim.kal", "", std::string(kDiscrimLines) + kRobustLines, "2022", kRobustLines,
+         // Reopened, the roles, the fraction and the priors come back.
+         "expect items 6156 X X2 W\nexpect text 6174 0.1\nexpect checked 6163 1\nok\n", 0, "", kRobustLines},
         {"manova.kal", "",
          "MANOVA\nMODEL T1 T2 T3 = CONSTANT+A+B/ REPEAT = 3, NAMES = time\nCATEGORY A B / REPLACE\n"
          "ESTIMATE / SS = TYPE3\nMANOVA\nDEPEND Y Y2\nCATEGORY A B / REPLACE\nCOVAR X\n"
