@@ -4,6 +4,7 @@
 #include "private/Multivariate/KDGDiscrimTabDlg.h"
 #include "private/Multivariate/KDGManovaBetweenDlg.h"
 #include "private/Multivariate/KDGManovaHypothesisTabDlg.h"
+#include "private/Multivariate/KDGManovaWithinDlg.h"
 #include "private/Multivariate/KDGMultivariateManovaEstimateTabDlg.h"
 #include "private/Multivariate/KDGRdiscrimDlg.h"
 
@@ -21,7 +22,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW(2025, CMultivariateManovaEstimateTabDlg, CMultivariateManovaEstimateTabData, 2182),
     KAL_MENU_ROW(2026, CManovaHypothesisTabDlg, CManovaHypothesisTabData, 2184),
     KAL_MENU_ROW_UNAVAILABLE(2027, CHypPairwiseDlg, CHypPairwiseData),
-    KAL_MENU_ROW_UNAVAILABLE(2028, CManovaWithinDlg, CManovaWithinData),
+    KAL_MENU_ROW(2028, CManovaWithinDlg, CManovaWithinData),
     KAL_MENU_ROW_UNAVAILABLE(2029, CTreesTabDlg, CTreesTabData, 2318),
 };
 

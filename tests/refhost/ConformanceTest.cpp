@@ -30,6 +30,8 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "page 0\nselect 6101 B\nclick 6103\nselect 6101 X\nclick 6107\n";
     if (id == "2022")
         return "select 6151 B\nclick 6153\nselect 6151 X\nclick 6157\n";
+    if (id == "2028")
+        return "select 6201 T1 T2\nclick 6203\n";
     if (id == "2024")
         return "select 6001 Y Y2\nclick 6003\nselect 6001 A\nclick 6007\n";
     if (id == "2025")

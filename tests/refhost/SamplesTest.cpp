@@ -131,7 +131,9 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
         {"manova.kal", "",
          "MANOVA\nMODEL T1 T2 T3 = CONSTANT+A+B/ REPEAT = 3, NAMES = time\nCATEGORY A B / REPLACE\n"
          "ESTIMATE / SS = TYPE3\nMANOVA\nDEPEND Y Y2\nCATEGORY A B / REPLACE\nCOVAR X\n"
-         "ESTIMATE / MTEST = WILKS, PILLAI CONTRAST = DIFFERENCE\n" +
+         "ESTIMATE / MTEST = WILKS, PILLAI CONTRAST = DIFFERENCE\nMANOVA\n"
+         "MODEL T1 T2 T3 = CONSTANT+A/ REPEAT = 3, NAMES = harvest\nCATEGORY A / REPLACE\n"
+         "ESTIMATE / SPHERICITY = GG, HF, LB\n" +
              std::string(kManovaTestLines),
          "2026", kManovaTestLines,
          // The test comes back with its choices, over the model it was made for.
