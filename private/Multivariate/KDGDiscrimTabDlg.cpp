@@ -45,7 +45,10 @@ void CDiscrimTabDlg::OnDataSet()
 
 void CDiscrimTabDlg::SetCaptionIDs(const std::array<UINT, 4>& captionIds)
 {
-    CGUIBaseDlg::SetCaptionIDs(captionIds);
+    // The first caption is the dialog's; no page takes its caption from the
+    // list by position.
+    if (captionIds[0] != 0)
+        SetDlgCaptionID(captionIds[0]);
     m_RegressionOptionsDlg.SetDlgCaptionID(captionIds[1] != 0 ? captionIds[1] : kEstimationOwner);
 }
 
