@@ -17,6 +17,10 @@ class CGLMData : public CGUIBaseObj {
     DECLARE_SERIAL(CGLMData)
 public:
     static constexpr UINT kModuleGlm = 12906;
+    // The linear mixed model's fixed effects are this page under owner
+    // 2356: the lines are the same but for the module's name.
+    static constexpr UINT kOwnerLinearMixedModel = 2356;
+    static constexpr UINT kModuleMixed = 13000;
     // The save list is the linear regression's.
     static constexpr UINT kSaveCombo = 4186;
     static constexpr int kSaveComboLast = 6;
@@ -58,9 +62,10 @@ public:
     const CGUIArray<CString>& GetTerms() const { return m_Terms; }
 
     void GetCommandInfoList(CLIST<CCmdInfo>& list) const override;
-    // The string id of the module line: the general linear model's; a
-    // multivariate model page writes its own module with the same lines.
-    virtual UINT GetModuleID() const { return kModuleGlm; }
+    // The string id of the module line: the general linear model's, the
+    // mixed model's under its owner; a multivariate model page writes its
+    // own module with the same lines.
+    virtual UINT GetModuleID() const { return GetOwnerID() == kOwnerLinearMixedModel ? kModuleMixed : kModuleGlm; }
     // The source list follows the data sheet; dependent and categorical
     // variables it no longer has leave their lists, and variables it marks
     // categorical join the categorical list. Terms stay as they are: OK

@@ -5,7 +5,6 @@
 #include "framework/ResourceUtil.h"
 #include "private/Anova/KDGMatrixText.h"
 #include "private/Anova/KDGModelTerms.h"
-#include "private/Multivariate/KDGMultivariateManovaEstimateTabData.h"
 
 #include <cmath>
 #include <unordered_set>
@@ -68,12 +67,8 @@ void ExchangeChoice(CDataExchange* pDX, CComboBox* combo, CString& text)
 
 BOOL CHypothesisDlg::OnInitDialog()
 {
-    if (m_pData) {
-        const UINT command = CLastModel::TestCommandOf(*m_pData);
-        m_Model = CLastModel::For(command);
-        m_nNoModelMessage =
-            CLastModel::ModuleId(command) == CManovaModelData::kModuleManova ? kMsgNoMultivariateModel : kMsgNoModel;
-    }
+    if (m_pData)
+        m_Model = CLastModel::For(CLastModel::TestCommandOf(*m_pData));
     FillTerms(*this, IDC_EFFECT, m_Model);
     CGUIPageDlg::OnInitDialog();
     GetGrid().SetColumnWidth(0, GetGrid().GetColumnWidth(1) / 4);
@@ -98,7 +93,7 @@ void CHypothesisDlg::DoDataExchange(CDataExchange* pDX)
             m_Work.m_Rows.Add(text);
     }
     const UINT problem = Validate();
-    const bool onEffect = problem == m_nNoModelMessage || problem == kMsgUnknownVariable;
+    const bool onEffect = !m_Model.IsEstimated() || problem == kMsgUnknownVariable;
     DDX_ControlWarn(pDX, onEffect ? IDC_EFFECT : IDC_GRID, problem);
 }
 
@@ -132,7 +127,7 @@ UINT CHypothesisDlg::TermProblem(const CString& term)
 UINT CHypothesisDlg::Validate() const
 {
     if (!m_Model.IsEstimated())
-        return m_nNoModelMessage;
+        return CLastModel::NoModelMessage(m_pData ? CLastModel::TestCommandOf(*m_pData) : 0);
     const CGUIArray<CString>& rows = m_Work.m_Rows;
     if (m_Work.IsSpecify()) {
         for (const CString& row : rows)

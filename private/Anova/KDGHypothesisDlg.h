@@ -23,9 +23,6 @@ public:
     static constexpr UINT kMsgRagged = 2107;
     static constexpr UINT kMsgContrastSum = 2108;
     static constexpr UINT kMsgNoCombination = 2113;
-    // No model stored for a multivariate test: the MANOVA estimate model
-    // is the one to confirm first.
-    static constexpr UINT kMsgNoMultivariateModel = 6403;
 
     explicit CHypothesisDlg(CWnd* parent = nullptr) : CGUIPageDlg(IDD, parent, IDC_GRID) {}
 
@@ -52,7 +49,6 @@ private:
     UINT Validate() const;
 
     CLastModel m_Model;
-    UINT m_nNoModelMessage = kMsgNoModel;
 };
 
 class CHypothesisErrorDlg : public CGUIPageDlg<CHypothesisErrorData>, public CHypothesisErrorDlgIds {

@@ -5,13 +5,22 @@
 #include "private/Anova/KDGAnovaTabData.h"
 #include "private/Anova/KDGGLMTabData.h"
 #include "private/Anova/KDGModelTerms.h"
+#include "private/Mixed/KDGMixedModelHierarchicalLinearMixedModelTabDlg.h"
+#include "private/Mixed/KDGMixedModelLinearMixedModelTabDlg.h"
 #include "private/Multivariate/KDGMultivariateManovaEstimateTabData.h"
 
 namespace {
 
 constexpr UINT kGlmCommand = 2010;
 constexpr UINT kAnovaCommand = 2008;
+constexpr UINT kMixedTestCommand = 2073;
+constexpr UINT kLinearMixedCommand = 2067;
+constexpr UINT kHierarchicalMixedCommand = 2068;
+constexpr UINT kMsgNoModel = 2104;
+constexpr UINT kMsgNoMixedModel = 8411;
+constexpr UINT kManovaTestCommand = 2026;
 constexpr UINT kManovaCommand = 2025;
+constexpr UINT kMsgNoMultivariateModel = 6403;
 
 std::vector<CString> NamesOf(const CGUIArray<CGUIDataVariable>& list)
 {
@@ -32,7 +41,8 @@ UINT CLastModel::ModelCommand(UINT testCommand)
     case 2027: return kGlmCommand;
     case 2009:
     case 2077: return kAnovaCommand;
-    case 2026: return kManovaCommand;
+    case kMixedTestCommand: return kLinearMixedCommand;
+    case kManovaTestCommand: return kManovaCommand;
     default: return 0;
     }
 }
@@ -44,8 +54,19 @@ UINT CLastModel::TestCommandOf(const CGUIBaseObj& page)
     return parent ? parent->GetDialogID() : page.GetDialogID();
 }
 
+UINT CLastModel::NoModelMessage(UINT testCommand)
+{
+    switch (testCommand) {
+    case kMixedTestCommand: return kMsgNoMixedModel;
+    case kManovaTestCommand: return kMsgNoMultivariateModel;
+    default: return kMsgNoModel;
+    }
+}
+
 UINT CLastModel::ModuleId(UINT testCommand)
 {
+    if (testCommand == kMixedTestCommand)
+        return CGLMData::kModuleMixed;
     switch (ModelCommand(testCommand)) {
     case kAnovaCommand: return CAnovaData::kModuleAnova;
     case kManovaCommand: return CManovaModelData::kModuleManova;
@@ -53,26 +74,48 @@ UINT CLastModel::ModuleId(UINT testCommand)
     }
 }
 
+CLastModel CLastModel::FromModelPage(const CGLMData& page)
+{
+    CLastModel model;
+    model.m_Dependents = page.GetDependentList();
+    model.m_Terms = page.GetTerms();
+    const std::vector<CString> categorical = NamesOf(page.GetCategoryList());
+    const auto used = CModelTerms::UsedAmong(model.m_Terms, categorical);
+    for (const CString& name : categorical)
+        if (used.count(name))
+            model.m_Factors.push_back(name);
+    return model;
+}
+
+CLastModel CLastModel::ForMixedModel(IGlobal& host)
+{
+    if (auto* linear = dynamic_cast<CMixedModelLinearMixedModelTabData*>(host.GetSettings(kLinearMixedCommand))) {
+        CLastModel model = FromModelPage(*linear->GetFixedEffectsData());
+        if (model.IsEstimated())
+            return model;
+    }
+    CLastModel model;
+    if (auto* levels = dynamic_cast<CMixedModelHierarchicalLinearMixedModelTabData*>(
+            host.GetSettings(kHierarchicalMixedCommand))) {
+        const CHlmLevelsData& page = *levels->GetLevelsData();
+        model.m_Dependents = page.GetDependentList();
+        model.m_Terms = page.Terms();
+    }
+    return model;
+}
+
 CLastModel CLastModel::For(UINT testCommand)
 {
     CLastModel model;
     IGlobal* host = kal::framework::Host();
+    if (host && testCommand == kMixedTestCommand)
+        return ForMixedModel(*host);
     const UINT command = ModelCommand(testCommand);
     CGUIBaseObj* stored = host && command ? host->GetSettings(command) : nullptr;
-    const CGLMData* linear = nullptr;
-    if (auto* glm = dynamic_cast<CGLMTabData*>(stored))
-        linear = glm->GetGLMData();
-    else if (auto* manova = dynamic_cast<CMultivariateManovaEstimateTabData*>(stored))
-        linear = &manova->GetModel();
-    if (linear) {
-        const CGLMData& page = *linear;
-        model.m_Dependents = page.GetDependentList();
-        model.m_Terms = page.GetTerms();
-        const std::vector<CString> categorical = NamesOf(page.GetCategoryList());
-        const auto used = CModelTerms::UsedAmong(model.m_Terms, categorical);
-        for (const CString& name : categorical)
-            if (used.count(name))
-                model.m_Factors.push_back(name);
+    if (auto* glm = dynamic_cast<CGLMTabData*>(stored)) {
+        model = FromModelPage(*glm->GetGLMData());
+    } else if (auto* manova = dynamic_cast<CMultivariateManovaEstimateTabData*>(stored)) {
+        model = FromModelPage(manova->GetModel());
     } else if (auto* anova = dynamic_cast<CAnovaTabData*>(stored)) {
         const CAnovaData& page = *anova->GetAnovaData();
         model.m_Dependents = page.GetDependentList();
