@@ -59,6 +59,14 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "page 0\nselect 8241 Y\nclick 8243\nselect 8241 B\nclick 8255\n";
     if (id == "2016")
         return "select 8324 B\nclick 8326\nselect 8324 A\nclick 8330\n";
+    // The regressions on the shared model page; two-stage least squares
+    // also needs an endogenous regressor and its instrument.
+    constexpr const char* kModel = "page 0\nselect 7001 Y\nclick 7004\nselect 7001 X\nclick 7006\n";
+    if (id == "2001")
+        return std::string(kModel) + "page 1\nselect 7141 X\nclick 7144\nselect 7141 W\nclick 7146\n";
+    for (const char* row : {"2052", "2053", "2054", "2055", "2056", "2070", "2071", "2072", "2074", "2075", "2076"})
+        if (id == row)
+            return kModel;
     return {};
 }
 

@@ -216,6 +216,24 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "MIXREG\nDATA T1 T2 T3 / WIDE ID = B TIMES = 0 1 3\nSAVE 'harvests-long.kvd'\n" + std::string(kMixRegLines),
          "2015", kMixRegLines, "expect items 8250 X2\nexpect combo 8259 1\npage 1\nexpect text 8281 20\nok\n", 0, "",
          kMixRegLines},
+        {"regression-models.kal", "plants.csv",
+         "RIDGE\nMODEL yield = CONSTANT+dose+rain\nSAVE 'ridge-trace.kvd' / COEFFICIENTS\n"
+         "ESTIMATE / KGRID = 0,0.5,0.01\n"
+         "LADREG\nMODEL yield = CONSTANT+dose+rain / WEIGHT = weight\n"
+         "ESTIMATE / QUANTILE = 0.9 CI = BOOTSTRAP SAMPLES = 1000\n"
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nSAVE 'lts.kvd' / RESIDUALS/WEIGHTS\n"
+         "ESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n"
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / M WEIGHT = BISQUARE C = 4.685 SCALE = HUBER\n"
+         "RANKREG\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / SCORES = NORMAL WEIGHTS = HBR\n"
+         "TSLS\nMODEL yield2 = CONSTANT+dose+yield\nENDOGENOUS yield\nINSTRUMENTS rain\nESTIMATE / FIRST\n",
+         "2070",
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nSAVE 'lts.kvd' / RESIDUALS/WEIGHTS\n"
+         "ESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n",
+         // The trimmed fit comes back with its coverage and file; without
+         // saving only the estimation follows the model.
+         "expect items 7003 dose rain\npage 1\nexpect text 7082 0.75\nexpect text 7103 lts.kvd\n"
+         "check 7101 0\nok\n",
+         0, "", "ROBUST\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n"},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
