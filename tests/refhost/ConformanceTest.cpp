@@ -40,6 +40,16 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "page 0\nselect 6721 B\nclick 6722\nselect 6721 X\nclick 6728\n";
     if (id == "2017")
         return "select 6781 Y Y2 X\nclick 6782\n";
+    if (id == "2021")
+        return "page 0\nselect 6101 B\nclick 6103\nselect 6101 X\nclick 6107\n";
+    if (id == "2022")
+        return "select 6151 B\nclick 6153\nselect 6151 X\nclick 6157\n";
+    if (id == "2028")
+        return "select 6201 T1 T2\nclick 6203\n";
+    if (id == "2024")
+        return "select 6001 Y Y2\nclick 6003\nselect 6001 A\nclick 6007\n";
+    if (id == "2025")
+        return "page 0\nselect 2121 Y Y2\nclick 2123\n";
     if (id == "2030" || id == "2031")
         return "page 0\nselect 7601 Y\nclick 7602\ntype 7607 b0*X\ntype 7609 ABS(RESIDUAL)\ncell 7611 1 1 b0\n"
                "cell 7611 1 2 1\n";
@@ -83,6 +93,8 @@ void ExpectNoAssertion(const ProcessResult& r, const std::string& what)
 // confirms one comes first, in the same store.
 std::string ModelSessionFor(const std::string& id)
 {
+    if (id == "2026")
+        return "open 2025\nselect 2121 Y Y2\nclick 2123\nselect 2121 A B\nclick 2137\nok\n";
     std::string glm = "open 2010\nselect 2121 Y Y2\nclick 2123\nselect 2121 A B\nclick 2137\nok\n";
     std::string anova = "open 2008\nselect 1075 Y\nclick 1067\nok\n";
     if (id == "2011" || id == "2012" || id == "2013" || id == "2027")

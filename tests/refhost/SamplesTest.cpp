@@ -52,6 +52,11 @@ const char* const kChoiceLines = "LOGIT\n"
 
 const char* const kCoranLines =
     "CORAN\nFREQ count\nMODEL variety$ = grade$\nESTIMATE / SUPPLEMENTARY = region$ NORMALIZE = PRINCIPAL\n";
+const char* const kDiscrimLines =
+    "DISCRIM\nMODEL B = X+X2+W / CROSSVALIDATE\nPRIORS 0.2 0.3 0.5\nSTART / FORWARD\nSTEP / AUTO\nSTOP \n";
+const char* const kRobustLines = "DISCRIM\nMODEL B = X+X2+W / ROBUST = MCD TRIM = 0.1\nPRIORS / SAMPLE\nESTIMATE\n";
+const char* const kManovaTestLines =
+    "MANOVA\nHYPOTHESIS\nEFFECT = A\nCONTRAST / DIFFERENCE\nERROR 'B'\nTEST / MTEST = WILKS, PILLAI\n";
 
 const char* const kSimulationLines = "LOGIT\nSIMULATE / DRAWS = 5000 RSEED = 17\nSCENARIO income = 30\n"
                                      "SCENARIO income = 60, age = 30\n";
@@ -145,6 +150,20 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "QC\nARL XBAR / N=4 MAXSHIFT=3 STEP=0.5 L=3\nQC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "2038", "QC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "expect combo 5512 1\nexpect text 5519 \"&Parameter λ (weight):\"\nexpect text 5513 5\ncancel\n", 1, "", ""},
+        {"discrim.kal", "", std::string(kDiscrimLines) + kRobustLines, "2022", kRobustLines,
+         // Reopened, the roles, the fraction and the priors come back.
+         "expect items 6156 X X2 W\nexpect text 6174 0.1\nexpect checked 6163 1\nok\n", 0, "", kRobustLines},
+        {"manova.kal", "",
+         "MANOVA\nMODEL T1 T2 T3 = CONSTANT+A+B/ REPEAT = 3, NAMES = time\nCATEGORY A B / REPLACE\n"
+         "ESTIMATE / SS = TYPE3\nMANOVA\nDEPEND Y Y2\nCATEGORY A B / REPLACE\nCOVAR X\n"
+         "ESTIMATE / MTEST = WILKS, PILLAI CONTRAST = DIFFERENCE\nMANOVA\n"
+         "MODEL T1 T2 T3 = CONSTANT+A/ REPEAT = 3, NAMES = harvest\nCATEGORY A / REPLACE\n"
+         "ESTIMATE / SPHERICITY = GG, HF, LB\n" +
+             std::string(kManovaTestLines),
+         "2026", kManovaTestLines,
+         // The test comes back with its choices, over the model it was made for.
+         "expect checked 2187 1\npage 1\nexpect checked 2205 1\npage 2\nexpect checked 6044 0\nok\n", 0, "",
+         kManovaTestLines},
         {"time-weighted.kal", "fill-weights.csv",
          "QC\nEWMA weight*lot / LAMBDA=0.1 TARGET=500 SLIMITS=2.7,2.7\n"
          "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\nQC\nMA weight*lot / SPAN=4 PLIMITS=0,0  TEST = 1 2 \n",
