@@ -62,6 +62,10 @@ public:
     const CGUIArray<CString>& GetTerms() const { return m_Terms; }
 
     void GetCommandInfoList(CLIST<CCmdInfo>& list) const override;
+    // The string id of the module line: the general linear model's, the
+    // mixed model's under its owner; a multivariate model page writes its
+    // own module with the same lines.
+    virtual UINT GetModuleID() const { return GetOwnerID() == kOwnerLinearMixedModel ? kModuleMixed : kModuleGlm; }
     // The source list follows the data sheet; dependent and categorical
     // variables it no longer has leave their lists, and variables it marks
     // categorical join the categorical list. Terms stay as they are: OK

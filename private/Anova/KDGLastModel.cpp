@@ -7,6 +7,7 @@
 #include "private/Anova/KDGModelTerms.h"
 #include "private/Mixed/KDGMixedModelHierarchicalLinearMixedModelTabDlg.h"
 #include "private/Mixed/KDGMixedModelLinearMixedModelTabDlg.h"
+#include "private/Multivariate/KDGMultivariateManovaEstimateTabData.h"
 
 namespace {
 
@@ -17,6 +18,9 @@ constexpr UINT kLinearMixedCommand = 2067;
 constexpr UINT kHierarchicalMixedCommand = 2068;
 constexpr UINT kMsgNoModel = 2104;
 constexpr UINT kMsgNoMixedModel = 8411;
+constexpr UINT kManovaTestCommand = 2026;
+constexpr UINT kManovaCommand = 2025;
+constexpr UINT kMsgNoMultivariateModel = 6403;
 
 std::vector<CString> NamesOf(const CGUIArray<CGUIDataVariable>& list)
 {
@@ -38,6 +42,7 @@ UINT CLastModel::ModelCommand(UINT testCommand)
     case 2009:
     case 2077: return kAnovaCommand;
     case kMixedTestCommand: return kLinearMixedCommand;
+    case kManovaTestCommand: return kManovaCommand;
     default: return 0;
     }
 }
@@ -51,14 +56,22 @@ UINT CLastModel::TestCommandOf(const CGUIBaseObj& page)
 
 UINT CLastModel::NoModelMessage(UINT testCommand)
 {
-    return testCommand == kMixedTestCommand ? kMsgNoMixedModel : kMsgNoModel;
+    switch (testCommand) {
+    case kMixedTestCommand: return kMsgNoMixedModel;
+    case kManovaTestCommand: return kMsgNoMultivariateModel;
+    default: return kMsgNoModel;
+    }
 }
 
 UINT CLastModel::ModuleId(UINT testCommand)
 {
     if (testCommand == kMixedTestCommand)
         return CGLMData::kModuleMixed;
-    return ModelCommand(testCommand) == kAnovaCommand ? CAnovaData::kModuleAnova : CGLMData::kModuleGlm;
+    switch (ModelCommand(testCommand)) {
+    case kAnovaCommand: return CAnovaData::kModuleAnova;
+    case kManovaCommand: return CManovaModelData::kModuleManova;
+    default: return CGLMData::kModuleGlm;
+    }
 }
 
 CLastModel CLastModel::FromModelPage(const CGLMData& page)
@@ -101,6 +114,8 @@ CLastModel CLastModel::For(UINT testCommand)
     CGUIBaseObj* stored = host && command ? host->GetSettings(command) : nullptr;
     if (auto* glm = dynamic_cast<CGLMTabData*>(stored)) {
         model = FromModelPage(*glm->GetGLMData());
+    } else if (auto* manova = dynamic_cast<CMultivariateManovaEstimateTabData*>(stored)) {
+        model = FromModelPage(manova->GetModel());
     } else if (auto* anova = dynamic_cast<CAnovaTabData*>(stored)) {
         const CAnovaData& page = *anova->GetAnovaData();
         model.m_Dependents = page.GetDependentList();

@@ -3,7 +3,8 @@
 // linear model (2011, 2012, 2013, and 2027, the multivariate model being a
 // general linear model with several dependent variables) reads the stored
 // settings of the general linear model (2010), a test after an analysis of
-// variance (2009, 2077) those of the ANOVA (2008). The model is the one
+// variance (2009, 2077) those of the ANOVA (2008), the MANOVA hypothesis
+// test (2026) those of the MANOVA estimate model (2025). The model is the one
 // the user last confirmed there: its dependent variables, its terms, and
 // the categorical variables its terms use, the factors a pairwise
 // comparison can take. An ANOVA's terms are the full factorial of its

@@ -74,8 +74,18 @@ UINT CRepeatMeasuresDlg::ValidateLevels()
 {
     if (!m_Work.m_MeasureAnalysisOnOff || !IsWindowEnabled())
         return 0;
-    const int dependents = GetDependentVariableCount();
-    const CGUIArray<int>& levelList = m_Work.m_arrLevels;
+    return LevelsProblem(m_Work.m_arrLevels, GetDependentVariableCount());
+}
+
+UINT CRepeatMeasuresDlg::ValidateNamesAndMetrics()
+{
+    if (!m_Work.m_MeasureAnalysisOnOff || !IsWindowEnabled())
+        return 0;
+    return NamesAndMetricsProblem(m_Work.m_arrStrName, m_Work.m_arrLevels, m_Work.m_arrStrMetric);
+}
+
+UINT CRepeatMeasuresDlg::LevelsProblem(const CGUIArray<int>& levelList, int dependents)
+{
     if (levelList.GetSize() == 1)
         return levelList[0] == dependents ? 0 : kMsgSingleLevel;
     long long product = 1;
@@ -87,11 +97,9 @@ UINT CRepeatMeasuresDlg::ValidateLevels()
     return product == dependents ? 0 : kMsgLevelProduct;
 }
 
-UINT CRepeatMeasuresDlg::ValidateNamesAndMetrics()
+UINT CRepeatMeasuresDlg::NamesAndMetricsProblem(const CGUIArray<CString>& names, const CGUIArray<int>& levels,
+                                                const CGUIArray<CString>& metrics)
 {
-    if (!m_Work.m_MeasureAnalysisOnOff || !IsWindowEnabled())
-        return 0;
-    const auto& names = m_Work.m_arrStrName;
     std::unordered_set<CString> seen;
     for (const CString& name : names) {
         if (ContainsControlCharacter(name))
@@ -100,8 +108,6 @@ UINT CRepeatMeasuresDlg::ValidateNamesAndMetrics()
             return kMsgDuplicateName;
     }
     // A metric spaces the levels of its factor: one number per level.
-    const auto& levels = m_Work.m_arrLevels;
-    const auto& metrics = m_Work.m_arrStrMetric;
     for (int i = 0; i < metrics.GetSize() && i < levels.GetSize(); ++i) {
         CString metric = metrics[i];
         if (metric.Trim().IsEmpty())
@@ -125,10 +131,17 @@ UINT CRepeatMeasuresDlg::ValidateNamesAndMetrics()
 
 void CRepeatMeasuresDlg::FillGridFromData()
 {
-    CGridCtrl& grid = GetGrid();
-    const auto& names = m_Work.m_arrStrName;
-    const auto& levels = m_Work.m_arrLevels;
-    const auto& metric = m_Work.m_arrStrMetric;
+    FillGrid(GetGrid(), m_Work.m_arrStrName, m_Work.m_arrLevels, m_Work.m_arrStrMetric);
+}
+
+void CRepeatMeasuresDlg::FillDataFromGrid()
+{
+    ReadGrid(GetGrid(), m_Work.m_arrStrName, m_Work.m_arrLevels, m_Work.m_arrStrMetric);
+}
+
+void CRepeatMeasuresDlg::FillGrid(CGridCtrl& grid, const CGUIArray<CString>& names, const CGUIArray<int>& levels,
+                                  const CGUIArray<CString>& metric)
+{
     const int rows = std::max({names.GetSize(), levels.GetSize(), metric.GetSize()});
     grid.SetRowCount(rows + 1);
     for (int i = 0; i < rows; ++i) {
@@ -138,12 +151,9 @@ void CRepeatMeasuresDlg::FillGridFromData()
     }
 }
 
-void CRepeatMeasuresDlg::FillDataFromGrid()
+void CRepeatMeasuresDlg::ReadGrid(const CGridCtrl& grid, CGUIArray<CString>& names, CGUIArray<int>& levelList,
+                                  CGUIArray<CString>& metricList)
 {
-    const CGridCtrl& grid = GetGrid();
-    auto& names = m_Work.m_arrStrName;
-    auto& levelList = m_Work.m_arrLevels;
-    auto& metricList = m_Work.m_arrStrMetric;
     names.RemoveAll();
     levelList.RemoveAll();
     metricList.RemoveAll();

@@ -38,6 +38,20 @@ public:
     // distinct and free of control characters, else the message id.
     UINT ValidateNamesAndMetrics();
 
+    // The same checks of factors given as lists, for any dialog that
+    // defines repeated-measures factors: `levels` against `dependents`,
+    // the names and metrics against each other.
+    static UINT LevelsProblem(const CGUIArray<int>& levels, int dependents);
+    static UINT NamesAndMetricsProblem(const CGUIArray<CString>& names, const CGUIArray<int>& levels,
+                                       const CGUIArray<CString>& metrics);
+    // A grid of the columns of Column shows the factors, and gives them
+    // back (rows left empty are skipped; levels that are no whole number
+    // read as 0, which the level check refuses).
+    static void FillGrid(CGridCtrl& grid, const CGUIArray<CString>& names, const CGUIArray<int>& levels,
+                         const CGUIArray<CString>& metrics);
+    static void ReadGrid(const CGridCtrl& grid, CGUIArray<CString>& names, CGUIArray<int>& levels,
+                         CGUIArray<CString>& metrics);
+
 protected:
     void OnOnOffCheck();
 

@@ -28,6 +28,24 @@ bool CRegressionOptionsDlg::IsMixtureAvailable(bool complete) const
            GetDlgCaptionID() != CRegressionOptionsData::kOwnerDiscriminant;
 }
 
+bool CRegressionOptionsDlg::IsStepwiseAvailable() const
+{
+    return !(m_bQuadraticModel && GetDlgCaptionID() == CRegressionOptionsData::kOwnerDiscriminant);
+}
+
+void CRegressionOptionsDlg::OnDiscrimQuadraticCheckChange(bool quadratic)
+{
+    m_bQuadraticModel = quadratic;
+    if (!IsCreated())
+        return;
+    if (!IsStepwiseAvailable() && IsDlgButtonChecked(IDC_STEPWISE)) {
+        // The two buttons alone: the ids between them belong to other groups.
+        CheckDlgButton(IDC_STEPWISE, BST_UNCHECKED);
+        CheckDlgButton(IDC_COMPLETE, BST_CHECKED);
+    }
+    UpdateDependentWindows();
+}
+
 BOOL CRegressionOptionsDlg::IsMixtureChecked() const
 {
     if (IsCreated())
@@ -52,6 +70,7 @@ void CRegressionOptionsDlg::UpdateDependentWindows()
         EnableCtrl(id, stepwise);
     OnProbabilityRadio();
     EnableCtrl(IDC_MIXTURE, IsMixtureAvailable(!stepwise));
+    EnableCtrl(IDC_STEPWISE, IsStepwiseAvailable());
     // The discriminant analysis writes no confidence.
     const bool confidence = GetDlgCaptionID() != CRegressionOptionsData::kOwnerDiscriminant;
     EnableCtrl(IDC_CONFIDENCE_LABEL, confidence);

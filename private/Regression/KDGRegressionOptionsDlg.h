@@ -23,6 +23,11 @@ public:
     // its settings).
     BOOL IsCompeteRadioChecked() const;
 
+    // The discriminant analysis tells the page whether its functions are
+    // quadratic: those are estimated completely, so the stepwise choice
+    // is taken away (and complete estimation chosen) while they are.
+    void OnDiscrimQuadraticCheckChange(bool quadratic);
+
     BOOL OnInitDialog() override;
     void UpdateDependentWindows() override;
     // The defaults of the page's owner.
@@ -43,4 +48,9 @@ private:
     // The mixture model is offered for complete estimation of ordinary data,
     // to every owner but the discriminant analysis.
     bool IsMixtureAvailable(bool complete) const;
+    // Stepwise estimation, offered unless the discriminant functions are
+    // quadratic.
+    bool IsStepwiseAvailable() const;
+
+    bool m_bQuadraticModel = false;
 };

@@ -32,6 +32,30 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "select 9201 Y Y2\nclick 9203\n";
     if (id == "2046")
         return "select 9001 B\nclick 9003\n";
+    if (id == "2023")
+        return "page 0\nselect 6501 Y Y2\nclick 6502\n";
+    if (id == "2018")
+        return "page 0\nselect 6541 Y\nclick 6542\n";
+    if (id == "2019")
+        return "page 0\nselect 6601 Y\nclick 6602\n";
+    if (id == "2020")
+        return "page 0\nselect 6641 A\nclick 6642\nselect 6641 B\nclick 6646\n";
+    if (id == "2057")
+        return "page 0\nselect 6681 Y\nclick 6682\nselect 6681 X\nclick 6690\n";
+    if (id == "2029")
+        return "page 0\nselect 6721 B\nclick 6722\nselect 6721 X\nclick 6728\n";
+    if (id == "2017")
+        return "select 6781 Y Y2 X\nclick 6782\n";
+    if (id == "2021")
+        return "page 0\nselect 6101 B\nclick 6103\nselect 6101 X\nclick 6107\n";
+    if (id == "2022")
+        return "select 6151 B\nclick 6153\nselect 6151 X\nclick 6157\n";
+    if (id == "2028")
+        return "select 6201 T1 T2\nclick 6203\n";
+    if (id == "2024")
+        return "select 6001 Y Y2\nclick 6003\nselect 6001 A\nclick 6007\n";
+    if (id == "2025")
+        return "page 0\nselect 2121 Y Y2\nclick 2123\n";
     if (id == "2030" || id == "2031")
         return "page 0\nselect 7601 Y\nclick 7602\ntype 7607 b0*X\ntype 7609 ABS(RESIDUAL)\ncell 7611 1 1 b0\n"
                "cell 7611 1 2 1\n";
@@ -55,6 +79,14 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "page 0\nselect 8241 Y\nclick 8243\nselect 8241 B\nclick 8255\n";
     if (id == "2016")
         return "select 8324 B\nclick 8326\nselect 8324 A\nclick 8330\n";
+    // The regressions on the shared model page; two-stage least squares
+    // also needs an endogenous regressor and its instrument.
+    constexpr const char* kModel = "page 0\nselect 7001 Y\nclick 7004\nselect 7001 X\nclick 7006\n";
+    if (id == "2001")
+        return std::string(kModel) + "page 1\nselect 7141 X\nclick 7144\nselect 7141 W\nclick 7146\n";
+    for (const char* row : {"2052", "2053", "2054", "2055", "2056", "2070", "2071", "2072", "2074", "2075", "2076"})
+        if (id == row)
+            return kModel;
     return {};
 }
 
@@ -67,6 +99,8 @@ void ExpectNoAssertion(const ProcessResult& r, const std::string& what)
 // confirms one comes first, in the same store.
 std::string ModelSessionFor(const std::string& id)
 {
+    if (id == "2026")
+        return "open 2025\nselect 2121 Y Y2\nclick 2123\nselect 2121 A B\nclick 2137\nok\n";
     std::string glm = "open 2010\nselect 2121 Y Y2\nclick 2123\nselect 2121 A B\nclick 2137\nok\n";
     std::string anova = "open 2008\nselect 1075 Y\nclick 1067\nok\n";
     if (id == "2011" || id == "2012" || id == "2013" || id == "2027")

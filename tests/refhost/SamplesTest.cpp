@@ -53,6 +53,14 @@ const char* const kChoiceLines = "LOGIT\n"
                                  "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
                                  "ESTIMATE / CONFI = 0.9 ITER = 100\n";
 
+const char* const kCoranLines =
+    "CORAN\nFREQ count\nMODEL variety$ = grade$\nESTIMATE / SUPPLEMENTARY = region$ NORMALIZE = PRINCIPAL\n";
+const char* const kDiscrimLines =
+    "DISCRIM\nMODEL B = X+X2+W / CROSSVALIDATE\nPRIORS 0.2 0.3 0.5\nSTART / FORWARD\nSTEP / AUTO\nSTOP \n";
+const char* const kRobustLines = "DISCRIM\nMODEL B = X+X2+W / ROBUST = MCD TRIM = 0.1\nPRIORS / SAMPLE\nESTIMATE\n";
+const char* const kManovaTestLines =
+    "MANOVA\nHYPOTHESIS\nEFFECT = A\nCONTRAST / DIFFERENCE\nERROR 'B'\nTEST / MTEST = WILKS, PILLAI\n";
+
 const char* const kSimulationLines = "LOGIT\nSIMULATE / DRAWS = 5000 RSEED = 17\nSCENARIO income = 30\n"
                                      "SCENARIO income = 60, age = 30\n";
 
@@ -155,12 +163,41 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "QC\nARL XBAR / N=4 MAXSHIFT=3 STEP=0.5 L=3\nQC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "2038", "QC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "expect combo 5512 1\nexpect text 5519 \"&Parameter λ (weight):\"\nexpect text 5513 5\ncancel\n", 1, "", ""},
+        {"discrim.kal", "", std::string(kDiscrimLines) + kRobustLines, "2022", kRobustLines,
+         // Reopened, the roles, the fraction and the priors come back.
+         "expect items 6156 X X2 W\nexpect text 6174 0.1\nexpect checked 6163 1\nok\n", 0, "", kRobustLines},
+        {"manova.kal", "",
+         "MANOVA\nMODEL T1 T2 T3 = CONSTANT+A+B/ REPEAT = 3, NAMES = time\nCATEGORY A B / REPLACE\n"
+         "ESTIMATE / SS = TYPE3\nMANOVA\nDEPEND Y Y2\nCATEGORY A B / REPLACE\nCOVAR X\n"
+         "ESTIMATE / MTEST = WILKS, PILLAI CONTRAST = DIFFERENCE\nMANOVA\n"
+         "MODEL T1 T2 T3 = CONSTANT+A/ REPEAT = 3, NAMES = harvest\nCATEGORY A / REPLACE\n"
+         "ESTIMATE / SPHERICITY = GG, HF, LB\n" +
+             std::string(kManovaTestLines),
+         "2026", kManovaTestLines,
+         // The test comes back with its choices, over the model it was made for.
+         "expect checked 2187 1\npage 1\nexpect checked 2205 1\npage 2\nexpect checked 6044 0\nok\n", 0, "",
+         kManovaTestLines},
         {"time-weighted.kal", "fill-weights.csv",
          "QC\nEWMA weight*lot / LAMBDA=0.1 TARGET=500 SLIMITS=2.7,2.7\n"
          "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\nQC\nMA weight*lot / SPAN=4 PLIMITS=0,0  TEST = 1 2 \n",
          "2035", "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\n",
          // The CUSUM page shows its own controls, not the limits.
          "expect checked 5478 1\nexpect text 5488 4\nexpect visible 5470 0\ncancel\n", 1, "", ""},
+        {"multivariate.kal", "orchards.csv",
+         "FACTOR\nSAVE 'scores.kvd' / SCORES\nMODEL height girth crown yield sugar acidity\n"
+         "ESTIMATE / IPA NUMBER = 2 ROTATE = OBLIMIN GAMMA=0.5 SORT\n"
+         "CLUSTER\nSAVE 'clusters.kvd' / NUMBER = 4\n"
+         "JOIN height girth crown yield / DISTANCE = SQEUCLIDEAN LINKAGE = WARD STANDARDIZE\n"
+         "CLUSTER\nSAVE 'groups.kvd' / DISTANCE\n"
+         "KMEANS height girth crown yield / NUMBER = 4 DISTANCE = EUCLIDEAN STANDARDIZE INIT = RANDOM RSEED = 1234\n" +
+             std::string(kCoranLines) +
+             "SETCOR\nMODEL yield sugar acidity = height girth crown / XPARTIAL = tree\n"
+             "ESTIMATE / RAO PILLAI SAMPLE = BOOT(500)\n"
+             "TREES\nMODEL grade$ = variety$ height girth crown\nESTIMATE / CLASS PRUNE\n"
+             "CLUSTER\nADDTREE height girth crown yield sugar acidity / DISTANCE = PEARSON FITTED\n",
+         "2020", kCoranLines,
+         // Reopened, both pages show the last choices.
+         "expect items 6645 variety$\nexpect items 6657 count\npage 1\nexpect combo 6664 3\ncancel\n", 1, "", ""},
         {"logit-follow-ups.kal", "commute.csv",
          "LOGIT\nMODEL car = CONSTANT+income+age\nESTIMATE \nLOGIT\nPREDICT / AT income = 40\nMARGINS / AVERAGE\n"
          "CLASSIFY / CUT = 0.4\nLOGIT\nQUANTILES region / GROUPS = 5\n" +
@@ -209,6 +246,24 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "MIXREG\nDATA T1 T2 T3 / WIDE ID = B TIMES = 0 1 3\nSAVE 'harvests-long.kvd'\n" + std::string(kMixRegLines),
          "2015", kMixRegLines, "expect items 8250 X2\nexpect combo 8259 1\npage 1\nexpect text 8281 20\nok\n", 0, "",
          kMixRegLines},
+        {"regression-models.kal", "plants.csv",
+         "RIDGE\nMODEL yield = CONSTANT+dose+rain\nSAVE 'ridge-trace.kvd' / COEFFICIENTS\n"
+         "ESTIMATE / KGRID = 0,0.5,0.01\n"
+         "LADREG\nMODEL yield = CONSTANT+dose+rain / WEIGHT = weight\n"
+         "ESTIMATE / QUANTILE = 0.9 CI = BOOTSTRAP SAMPLES = 1000\n"
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nSAVE 'lts.kvd' / RESIDUALS/WEIGHTS\n"
+         "ESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n"
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / M WEIGHT = BISQUARE C = 4.685 SCALE = HUBER\n"
+         "RANKREG\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / SCORES = NORMAL WEIGHTS = HBR\n"
+         "TSLS\nMODEL yield2 = CONSTANT+dose+yield\nENDOGENOUS yield\nINSTRUMENTS rain\nESTIMATE / FIRST\n",
+         "2070",
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nSAVE 'lts.kvd' / RESIDUALS/WEIGHTS\n"
+         "ESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n",
+         // The trimmed fit comes back with its coverage and file; without
+         // saving only the estimation follows the model.
+         "expect items 7003 dose rain\npage 1\nexpect text 7082 0.75\nexpect text 7103 lts.kvd\n"
+         "check 7101 0\nok\n",
+         0, "", "ROBUST\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n"},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);
