@@ -2,6 +2,7 @@
 
 #include "Msg/LaunchDialog.h"
 #include "private/Anova/KDGGLMTabDlg.h"
+#include "private/Anova/KDGHypPairwiseDlg.h"
 #include "private/Anova/KDGHypothesisTabDlg.h"
 #include "private/Anova/KDGPairwiseTabDlg.h"
 
@@ -9,7 +10,7 @@ namespace {
 
 const MenuCommandRow kRows[] = {
     KAL_MENU_ROW(2010, CGLMTabDlg, CGLMTabData, 2100),
-    KAL_MENU_ROW_UNAVAILABLE(2011, CHypPairwiseDlg, CHypPairwiseData),
+    KAL_MENU_ROW(2011, CHypPairwiseDlg, CHypPairwiseData),
     KAL_MENU_ROW(2012, CPairwiseTabDlg, CPairwiseTabData),
     KAL_MENU_ROW(2013, CHypothesisTabDlg, CHypothesisTabData, 2105),
 };

@@ -1,6 +1,7 @@
 #include "Msg/MultivariateAnalysisMsg.h"
 
 #include "Msg/LaunchDialog.h"
+#include "private/Anova/KDGHypPairwiseDlg.h"
 #include "private/Multivariate/KDGAddTreeDlg.h"
 #include "private/Multivariate/KDGCoranTabDlg.h"
 #include "private/Multivariate/KDGDiscrimTabDlg.h"
@@ -27,7 +28,7 @@ const MenuCommandRow kRows[] = {
     KAL_MENU_ROW(2024, CManovaBetweenDlg, CManovaBetweenData),
     KAL_MENU_ROW(2025, CMultivariateManovaEstimateTabDlg, CMultivariateManovaEstimateTabData, 2182),
     KAL_MENU_ROW(2026, CManovaHypothesisTabDlg, CManovaHypothesisTabData, 2184),
-    KAL_MENU_ROW_UNAVAILABLE(2027, CHypPairwiseDlg, CHypPairwiseData),
+    KAL_MENU_ROW(2027, CHypPairwiseDlg, CHypPairwiseData),
     KAL_MENU_ROW(2028, CManovaWithinDlg, CManovaWithinData),
     KAL_MENU_ROW(2029, CTreesTabDlg, CTreesTabData, 2318),
 };

@@ -1,6 +1,7 @@
 #include "private/Anova/KDGHypPairwiseDlg.h"
 
 #include "framework/HostLink.h"
+#include "private/Anova/KDGHypothesisDlg.h"
 
 IMPLEMENT_DYNAMIC(CHypPairwiseDlg, CGUIBaseDlg)
 
@@ -58,6 +59,15 @@ void CHypPairwiseDlg::DoDataExchange(CDataExchange* pDX)
     m_Work.m_Factor = factor >= 0 ? factors->GetLBText(factor) : CString();
     const int error = errors->GetCurSel();
     m_Work.m_ErrorTerm = error > 0 ? errors->GetLBText(error) : CString();
-    if (!m_Model.IsEstimated() || m_Work.m_Factor.IsEmpty())
+    if (!m_Model.IsEstimated() || m_Work.m_Factor.IsEmpty()) {
         DDX_ControlWarn(pDX, IDC_FACTOR, kMsgNoModel);
+        return;
+    }
+    // The model was confirmed on another data sheet, perhaps: its factor
+    // and error term must still name variables of this one.
+    DDX_ControlWarn(pDX, IDC_FACTOR, CHypothesisDlg::TermProblem(m_Work.m_Factor));
+    if (!m_Work.m_ErrorTerm.IsEmpty()) {
+        DDX_ControlWarn(pDX, IDC_ERROR_TERM, CHypothesisDlg::TermProblem(m_Work.m_ErrorTerm));
+        DDX_ControlWarn(pDX, IDC_ERROR_TERM, m_Work.m_ErrorTerm == m_Work.m_Factor ? kMsgErrorIsEffect : 0);
+    }
 }

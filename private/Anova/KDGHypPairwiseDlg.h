@@ -1,7 +1,8 @@
 // CHypPairwiseDlg: the pairwise hypothesis matrix (template 2240), a dialog
 // without pages: the factor and the error term come from the last model,
 // the number of levels from the user. OK is refused while no model with a
-// factor is stored.
+// factor is stored, while the factor or error term names a variable the
+// data sheet does not have, and when the error term is the factor itself.
 #pragma once
 
 #include "framework/GUIPageDlg.h"
@@ -12,6 +13,7 @@ class CHypPairwiseDlg : public CGUIPageDlg<CHypPairwiseData>, public CHypPairwis
     DECLARE_DYNAMIC(CHypPairwiseDlg)
 public:
     static constexpr UINT kMsgNoModel = 2102;
+    static constexpr UINT kMsgErrorIsEffect = 9400;
     static constexpr UINT kResidualText = 2159;
 
     explicit CHypPairwiseDlg(CWnd* parent = nullptr) : CGUIPageDlg(IDD, parent) {}

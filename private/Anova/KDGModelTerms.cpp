@@ -1,6 +1,9 @@
 #include "private/Anova/KDGModelTerms.h"
 
 #include "framework/GUIBaseObj.h"
+#include "platform/TextIndex.h"
+
+#include <cstdint>
 
 namespace {
 
@@ -82,12 +85,29 @@ std::vector<CString> CModelTerms::FullFactorial(const std::vector<CString>& name
 
 void CModelTerms::AddUnique(CGUIArray<CString>& terms, const std::vector<CString>& added)
 {
-    std::unordered_set<CString> present;
-    present.reserve(static_cast<std::size_t>(terms.GetSize()) + added.size());
-    present.insert(terms.begin(), terms.end());
-    for (const CString& term : added)
-        if (!term.IsEmpty() && present.insert(term).second)
-            terms.Add(term);
+    // One flat index over the terms and the candidates together, which
+    // copies no text and allocates no node per entry: with 100,000 terms a
+    // set of strings spent most of its time waiting for memory. Each text
+    // is hashed once, and read again only where two hashes agree.
+    const int existing = terms.GetSize();
+    const int count = existing + static_cast<int>(added.size());
+    const auto textOf = [&terms, &added, existing](int i) -> std::u16string_view {
+        return i < existing ? terms[i].Str() : added[static_cast<std::size_t>(i - existing)].Str();
+    };
+    std::vector<std::uint32_t> hashes(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        hashes[static_cast<std::size_t>(i)] = CTextIndex::Hash(textOf(i));
+    CTextIndex index;
+    index.Build(count, textOf, [&hashes](int i) { return hashes[static_cast<std::size_t>(i)]; });
+    for (int item = existing; item < count; ++item) {
+        // The index holds the first item of each text: a candidate is new
+        // when the index holds it itself.
+        const std::u16string_view text = textOf(item);
+        const int first =
+            index.FindIf(hashes[static_cast<std::size_t>(item)], [&](int i) { return i == item || textOf(i) == text; });
+        if (!text.empty() && first == item)
+            terms.Add(added[static_cast<std::size_t>(item - existing)]);
+    }
 }
 
 std::unordered_set<CString> CModelTerms::UsedAmong(const CGUIArray<CString>& terms,

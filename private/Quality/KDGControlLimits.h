@@ -6,6 +6,7 @@
 // clause, and the chart keeps its usual limits.
 #pragma once
 
+#include "framework/GUIBaseDlg.h"
 #include "framework/GUIBaseObj.h"
 
 #include <cmath>
@@ -15,6 +16,32 @@ namespace kal::quality {
 
 CString LimitsClause(const CGUIBaseObj& settings, const CGUIData<double>& lower, const CGUIData<double>& upper,
                      const CString& keyword, int bCondition);
+
+// The controls of a chart's choice of limits: the radios of probability
+// limits and of sigma multiples, and the two bounds of each kind.
+struct LimitsControls {
+    UINT probabilityRadio = 0;
+    UINT sigmaRadio = 0;
+    UINT probabilityLower = 0;
+    UINT probabilityUpper = 0;
+    UINT sigmaLower = 0;
+    UINT sigmaUpper = 0;
+};
+
+// The bounds of the kind chosen are edited, those of the other kept; none
+// while the limits are out of use.
+void EnableLimits(CGUIBaseDlg& dlg, const LimitsControls& controls, bool inUse = true);
+// Sigma multiples need a bound at least: kMsgNoBound when both are empty.
+UINT ValidateSigmaBounds(const CGUIBaseDlg& dlg, const LimitsControls& controls, const CGUIData<double>& lower,
+                         const CGUIData<double>& upper);
+// The clause of the kind of limits chosen, the radio item `item`:
+// " PLIMITS=" for `probabilityItem`, " SLIMITS=" for `sigmaItem`, none for
+// any other.
+CString ChosenLimitsClause(const CGUIBaseObj& settings, UINT item, UINT probabilityItem, UINT sigmaItem,
+                           const CGUIData<double>& pLower, const CGUIData<double>& pUpper,
+                           const CGUIData<double>& sLower, const CGUIData<double>& sUpper);
+
+constexpr UINT kMsgNoBound = 12864;
 
 // Whether the bound holds a number: the user did not empty its edit.
 inline bool IsGiven(const CGUIData<double>& bound)
@@ -30,9 +57,10 @@ inline CGUIData<double> NoNumber()
     return CGUIData<double>(1, none, none, 0, 1);
 }
 
-// Tolerance limits given on both sides must be in order (0 when they
-// are), and a target given must lie within the limits given.
-inline UINT SpecLimitsOrder(const CGUIData<double>& lower, const CGUIData<double>& upper, UINT message)
+// Limits given on both sides (tolerance limits, probabilities) must be in
+// order (0 when they are), and a target given must lie within the limits
+// given.
+inline UINT LimitsOrder(const CGUIData<double>& lower, const CGUIData<double>& upper, UINT message)
 {
     return IsGiven(lower) && IsGiven(upper) && lower.m_Value >= upper.m_Value ? message : 0;
 }

@@ -1,24 +1,15 @@
-// CEWMATabDlg: the EWMA chart dialog (template 101): the time-weighted chart page and the
-// run-tests page, in that order.
+// CEWMATabDlg: the EWMA chart dialog (template 101): the chart
+// page and the run-tests page, in that order.
 #pragma once
 
-#include "framework/GUIDataDlg.h"
-#include "framework/GUITabDlg.h"
 #include "private/Quality/KDGEWMATabData.h"
-#include "private/Quality/KDGQcTestsDlg.h"
+#include "private/Quality/KDGQcChartTabDlg.h"
 #include "private/Quality/KDGTimeWeightedDlg.h"
 
-class CEWMATabDlg : public CGUIDataDlg<CEWMATabData, CGUITabDlg> {
+class CEWMATabDlg : public CQcChartTabDlg<CEWMATabData, CTimeWeightedDlg> {
     DECLARE_DYNAMIC(CEWMATabDlg)
 public:
-    explicit CEWMATabDlg(CWnd* parent = nullptr);
+    explicit CEWMATabDlg(CWnd* parent = nullptr) : CQcChartTabDlg(parent) {}
 
     const char* GetSourceFile() const override { return "Source/KDGEWMATabDlg"; }
-
-    CTimeWeightedDlg& GetChartDlg() { return m_ChartDlg; }
-    CQcTestsDlg& GetQcTestsDlg() { return m_QcTestsDlg; }
-
-private:
-    CTimeWeightedDlg m_ChartDlg{this};
-    CQcTestsDlg m_QcTestsDlg{this};
 };

@@ -2,36 +2,9 @@
 // page order: the time-weighted chart page, then the run tests, whose text joins the chart line.
 #pragma once
 
-#include "framework/GUITabData.h"
-#include "private/Quality/KDGQcTestsData.h"
+#include "private/Quality/KDGQcChartTabData.h"
 #include "private/Quality/KDGTimeWeightedData.h"
 
-class CMaTabData : public CGUITabData {
+class CMaTabData : public CQcChartTabData<CTimeWeightedChartData<TimeWeightedChart::MovingAverage>> {
     DECLARE_SERIAL(CMaTabData)
-public:
-    using ChartData = CTimeWeightedChartData<TimeWeightedChart::MovingAverage>;
-
-    CMaTabData() { LinkPages(); }
-    CMaTabData(const CMaTabData& other) : CMaTabData() { *this = other; }
-    CMaTabData& operator=(const CMaTabData&) = default;
-
-    CTimeWeightedData* GetChartData() { return &m_ChartData; }
-    CQcTestsData* GetQcTestsData() { return &m_QcTestsData; }
-
-    int GetAll(ChartData& chart, CQcTestsData& tests) const { return kal::CopyFieldsOut(*this, chart, tests); }
-    // The settings-from-output-node form stays visible beside this one.
-    using CGUIBaseObj::SetAll;
-    int SetAll(const ChartData& chart, const CQcTestsData& tests) { return kal::CopyFieldsIn(*this, chart, tests); }
-
-    PageList Pages() override { return {&m_ChartData, &m_QcTestsData}; }
-
-    static constexpr auto Fields()
-    {
-        using F = kal::FieldsOf<CMaTabData>;
-        return std::tuple{F::Page(&CMaTabData::m_ChartData), F::Page(&CMaTabData::m_QcTestsData)};
-    }
-
-private:
-    ChartData m_ChartData;
-    CQcTestsData m_QcTestsData;
 };

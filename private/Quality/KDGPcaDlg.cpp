@@ -43,7 +43,7 @@ void CPcaDlg::DoDataExchange(CDataExchange* pDX)
     const bool upper = IsGiven(m_Work.m_UpperEdit);
     DDX_ControlWarn(pDX, IDC_LSL_EDIT, lower || upper ? 0 : kMsgNoLimit);
     DDX_ControlWarn(pDX, IDC_USL_EDIT,
-                    kal::quality::SpecLimitsOrder(m_Work.m_LowerEdit, m_Work.m_UpperEdit, kMsgLimitsOrder));
+                    kal::quality::LimitsOrder(m_Work.m_LowerEdit, m_Work.m_UpperEdit, kMsgLimitsOrder));
     DDX_ControlWarn(
         pDX, IDC_TARGET_EDIT,
         kal::quality::TargetWithin(m_Work.m_LowerEdit, m_Work.m_UpperEdit, m_Work.m_TargetEdit, kMsgOutOfRange));

@@ -14,7 +14,7 @@ void CQaHistogramDlg::DoDataExchange(CDataExchange* pDX)
     if (!pDX->m_bSaveAndValidate)
         return;
     DDX_ControlWarn(pDX, IDC_USL_EDIT,
-                    kal::quality::SpecLimitsOrder(m_Work.m_LowerEdit, m_Work.m_UpperEdit, kMsgLimitsOrder));
+                    kal::quality::LimitsOrder(m_Work.m_LowerEdit, m_Work.m_UpperEdit, kMsgLimitsOrder));
     DDX_ControlWarn(
         pDX, IDC_TARGET_EDIT,
         kal::quality::TargetWithin(m_Work.m_LowerEdit, m_Work.m_UpperEdit, m_Work.m_TargetEdit, kMsgOutOfRange));

@@ -43,11 +43,9 @@ CString CTimeWeightedData::ChartClauses() const
         return text;
     }
     const UINT limits = CRadioUtil::GetRadioItem(kLimitsRadio, m_LimitsRadio);
-    text += kal::quality::LimitsClause(*this, m_PLimitsLowerEdit, m_PLimitsUpperEdit, u" PLIMITS=",
-                                       limits == kItemProbabilityLimits);
-    text +=
-        kal::quality::LimitsClause(*this, m_SigmaLowerEdit, m_SigmaUpperEdit, u" SLIMITS=", limits == kItemSigmaLimits);
-    return text;
+    return text + kal::quality::ChosenLimitsClause(*this, limits, kItemProbabilityLimits, kItemSigmaLimits,
+                                                   m_PLimitsLowerEdit, m_PLimitsUpperEdit, m_SigmaLowerEdit,
+                                                   m_SigmaUpperEdit);
 }
 
 void CTimeWeightedData::GetCommandInfoList(CLIST<CCmdInfo>& list) const

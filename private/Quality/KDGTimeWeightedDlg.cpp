@@ -55,11 +55,9 @@ UINT CTimeWeightedDlg::ValidateWeight() const
 
 UINT CTimeWeightedDlg::ValidateSigmaLimits() const
 {
-    if (Chart() == TimeWeightedChart::Cusum || !IsDlgButtonChecked(IDC_SLIMITS_RADIO))
+    if (Chart() == TimeWeightedChart::Cusum)
         return 0;
-    const bool none =
-        !kal::quality::IsGiven(m_Work.m_SigmaLowerEdit) && !kal::quality::IsGiven(m_Work.m_SigmaUpperEdit);
-    return none ? kMsgLimitsEmpty : 0;
+    return kal::quality::ValidateSigmaBounds(*this, kLimits, m_Work.m_SigmaLowerEdit, m_Work.m_SigmaUpperEdit);
 }
 
 void CTimeWeightedDlg::ShowBlock(std::initializer_list<UINT> controls, bool show)
@@ -87,12 +85,7 @@ void CTimeWeightedDlg::UpdateDependentWindows()
     ShowCtrl(IDC_SLIMITS_LOWER, !cusum);
     ShowCtrl(IDC_SLIMITS_UPPER, !cusum);
 
-    const bool probability = !cusum && IsDlgButtonChecked(IDC_PLIMITS_RADIO);
-    EnableCtrl(IDC_PLIMITS_LOWER, probability);
-    EnableCtrl(IDC_PLIMITS_UPPER, probability);
-    const bool sigmaLimits = !cusum && IsDlgButtonChecked(IDC_SLIMITS_RADIO);
-    EnableCtrl(IDC_SLIMITS_LOWER, sigmaLimits);
-    EnableCtrl(IDC_SLIMITS_UPPER, sigmaLimits);
+    kal::quality::EnableLimits(*this, kLimits, !cusum);
 }
 
 void CTimeWeightedDlg::OnRuleChange()

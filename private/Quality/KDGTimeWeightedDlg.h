@@ -11,6 +11,7 @@
 #pragma once
 
 #include "framework/GUIPageDlg.h"
+#include "private/Quality/KDGControlLimits.h"
 #include "private/Quality/KDGTimeWeightedData.h"
 
 class CTimeWeightedDlg : public CGUIPageDlg<CTimeWeightedData>, public CTimeWeightedDlgIds {
@@ -20,6 +21,9 @@ public:
     enum : UINT { ID_MENU_CHART = 33041, ID_MENU_GROUP = 33042 };
     static constexpr UINT kMsgNoMeasurement = 12940;
     static constexpr UINT kMsgLimitsEmpty = 12864;
+
+    static constexpr kal::quality::LimitsControls kLimits{IDC_PLIMITS_RADIO, IDC_SLIMITS_RADIO, IDC_PLIMITS_LOWER,
+                                                          IDC_PLIMITS_UPPER, IDC_SLIMITS_LOWER, IDC_SLIMITS_UPPER};
 
     explicit CTimeWeightedDlg(CWnd* parent = nullptr);
 

@@ -20,10 +20,9 @@ void CXMrData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
     line += AddEditValueCmd(m_SigmaEdit, u"  SIGMA = ", !GetValueState(m_SigmaEdit));
 
     const UINT limits = CRadioUtil::GetRadioItem(kLimitsRadio, m_LimitsRadio);
-    line += kal::quality::LimitsClause(*this, m_PLimitsLowerEdit, m_PLimitsUpperEdit, u" PLIMITS=",
-                                       limits == kItemProbabilityLimits);
     line +=
-        kal::quality::LimitsClause(*this, m_SigmaLowerEdit, m_SigmaUpperEdit, u" SLIMITS=", limits == kItemSigmaLimits);
+        kal::quality::ChosenLimitsClause(*this, limits, kItemProbabilityLimits, kItemSigmaLimits, m_PLimitsLowerEdit,
+                                         m_PLimitsUpperEdit, m_SigmaLowerEdit, m_SigmaUpperEdit);
 
     switch (CRadioUtil::GetRadioItem(kCenterLineRadio, m_CenterLineRadio)) {
     case kItemMean: line += u" MEAN "; break;

@@ -41,11 +41,7 @@ void CXMrDlg::DoDataExchange(CDataExchange* pDX)
 
 UINT CXMrDlg::ValidateSigmaLowerUpperEdit() const
 {
-    if (!IsDlgButtonChecked(IDC_SLIMITS_RADIO))
-        return 0;
-    const bool none =
-        !kal::quality::IsGiven(m_Work.m_SigmaLowerEdit) && !kal::quality::IsGiven(m_Work.m_SigmaUpperEdit);
-    return none ? kMsgLimitsEmpty : 0;
+    return kal::quality::ValidateSigmaBounds(*this, kLimits, m_Work.m_SigmaLowerEdit, m_Work.m_SigmaUpperEdit);
 }
 
 bool CXMrDlg::HoldsValue(UINT edit) const
@@ -79,12 +75,7 @@ void CXMrDlg::UpdateDependentWindows()
     EnableCtrl(IDC_SIGMA_EDIT, !mr);
     EnableCtrl(IDC_SIGMA_LABEL, !mr);
 
-    const bool probability = IsDlgButtonChecked(IDC_PLIMITS_RADIO) != 0;
-    EnableCtrl(IDC_PLIMITS_LOWER, probability);
-    EnableCtrl(IDC_PLIMITS_UPPER, probability);
-    const bool sigmaLimits = IsDlgButtonChecked(IDC_SLIMITS_RADIO) != 0;
-    EnableCtrl(IDC_SLIMITS_LOWER, sigmaLimits);
-    EnableCtrl(IDC_SLIMITS_UPPER, sigmaLimits);
+    kal::quality::EnableLimits(*this, kLimits);
 }
 
 void CXMrDlg::OnRuleChange()

@@ -12,6 +12,7 @@
 #pragma once
 
 #include "framework/GUIPageDlg.h"
+#include "private/Quality/KDGControlLimits.h"
 #include "private/Quality/KDGXMrData.h"
 
 class CXMrDlg : public CGUIPageDlg<CXMrData>, public CXMrDlgIds {
@@ -20,6 +21,9 @@ public:
     // The source list's context-menu entry.
     enum : UINT { ID_MENU_CHART = 33031 };
     static constexpr UINT kMsgLimitsEmpty = 12864;
+
+    static constexpr kal::quality::LimitsControls kLimits{IDC_PLIMITS_RADIO, IDC_SLIMITS_RADIO, IDC_PLIMITS_LOWER,
+                                                          IDC_PLIMITS_UPPER, IDC_SLIMITS_LOWER, IDC_SLIMITS_UPPER};
 
     explicit CXMrDlg(CWnd* parent = nullptr);
 

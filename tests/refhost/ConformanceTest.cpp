@@ -26,6 +26,12 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "select 5591 Y\nclick 5593\n";
     if (id == "2047")
         return "select 5541 Y\nclick 5543\ntype 5558 10\n";
+    if (id == "2039")
+        return "select 9101 Y\nclick 9103\nselect 9101 X\nclick 9107\n";
+    if (id == "2042")
+        return "select 9201 Y Y2\nclick 9203\n";
+    if (id == "2046")
+        return "select 9001 B\nclick 9003\n";
     if (id == "2023")
         return "page 0\nselect 6501 Y Y2\nclick 6502\n";
     if (id == "2018")

@@ -45,6 +45,9 @@ const char* const kGlmLines = "GLM\n"
                               "ESTIMATE / SS = TYPE3\n";
 const char* const kPairwiseLines = "GLM\nHYPOTHESIS\nPOST A / BONF CONFI = 0.9\nERROR 'A*B'\nTEST\n";
 const char* const kHypothesisLines = "GLM\nHYPOTHESIS\nEFFECT = A\nCONTRAST [ 1 -1 0; 0 1 -1 ]\nERROR 'A*B'\nTEST\n";
+const char* const kPairwiseMatrixLines =
+    "GLM\nHYPOTHESIS\nEFFECT = A\nCONTRAST [ 1 -1 0 0; 1 0 -1 0; 1 0 0 -1; 0 1 -1 0; 0 1 0 -1; 0 0 1 -1 ]\n"
+    "ERROR 'A*B'\nTEST\n";
 const char* const kChoiceLines = "LOGIT\n"
                                  "SET avail1 avail2 avail3 / INDICATORS\n"
                                  "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
@@ -114,6 +117,10 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
              std::string(kHypothesisLines),
          "2013", kHypothesisLines, "expect checked 2189 1\npage 1\nexpect checked 2205 1\nok\n", 0, "",
          kHypothesisLines},
+        {"glm-pairwise-matrix.kal", "",
+         "GLM\nMODEL Y = CONSTANT+A+B+A*B\nCATEGORY A B / REPLACE\nESTIMATE / SS = TYPE3\n" +
+             std::string(kPairwiseMatrixLines),
+         "2011", kPairwiseMatrixLines, "expect text 2244 4\nexpect combo 2246 3\nok\n", 0, "", kPairwiseMatrixLines},
         {"regression.kal", "",
          std::string("REGRESS\nMODEL Y = CONSTANT+X+X2\nSAVE 'residuals.kvd' / RESIDUALS\n"
                      "ESTIMATE / CONFI = 0.9 NTEST = SW\n") +
@@ -146,6 +153,12 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "QC\nCAPABILITY weight*lot / LSL=495 USL=505 TARGET=500 CP PP NORMTEST\n", "2047",
          "QC\nCAPABILITY weight*lot / LSL=495 USL=505 TARGET=500 CP PP NORMTEST\n",
          "expect text 5556 495\nexpect items 5545 lot\ncancel\n", 1, "", ""},
+        {"quality-charts.kal", "tool-wear.csv",
+         "QC\nREGCHART wear = parts / SLIMITS=3,3\n"
+         "QC\nTSQUARE diameter length*batch / MEAN=[ 25 60 ] COVAR=[ 0.04 0.01; 0.01 0.09 ] DECOMPOSE\n"
+         "QC\nPARETO defect$ / CUMULATIVE OTHER=10\n",
+         "2046", "QC\nPARETO defect$ / CUMULATIVE OTHER=10\n",
+         "expect items 9002 defect$\nexpect checked 9011 1\nexpect text 9013 10\ncancel\n", 1, "", ""},
         {"run-lengths.kal", "",
          "QC\nARL XBAR / N=4 MAXSHIFT=3 STEP=0.5 L=3\nQC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",
          "2038", "QC\nARL EWMA / N=5 MAXSHIFT=2 STEP=0.25 L=2.7 LAMBDA=0.1\n",

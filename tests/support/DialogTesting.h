@@ -86,6 +86,15 @@ protected:
         s.Select(source, Names(names));
         s.Click(button);
     }
+    // OK is refused with `message` alone, and the dialog stays open on `control`.
+    void ExpectRefused(CHeadlessSession& s, UINT message, UINT control)
+    {
+        host.messages.clear();
+        s.Ok();
+        EXPECT_TRUE(s.IsOpen());
+        EXPECT_EQ(host.messages, std::vector<UINT>{message});
+        EXPECT_EQ(s.Dialog().GetFocusCtrl(), &s.Find(control)) << control;
+    }
 
     FakeHost host;
     IModule* module = nullptr;

@@ -20,15 +20,6 @@ protected:
     Capability() : HeadlessDialogTest({u"Y", u"Lot", u"Shift$"}) {}
 
     INT_PTR Run(const Script& script) { return Open<CPcaDlg>(pca, {0, 0, 0, 0}, script); }
-    void ExpectRefused(CHeadlessSession& s, UINT message, UINT control)
-    {
-        host.messages.clear();
-        s.Ok();
-        EXPECT_TRUE(s.IsOpen());
-        EXPECT_EQ(host.messages, std::vector<UINT>{message});
-        EXPECT_EQ(s.Dialog().GetFocusCtrl(), &s.Find(control)) << control;
-    }
-
     CPcaData pca;
 };
 

@@ -24,15 +24,6 @@ protected:
     INT_PTR RunXMr(const Script& script) { return Open<CXMrTabDlg>(xmr, {2338, 0, 0, 0}, script); }
     static Lines16 Commands(const CGUIBaseObj& settings) { return LinesOf(settings); }
     // OK refused: the dialog stays open with the focus on `control`.
-    void ExpectRefused(CHeadlessSession& s, UINT message, UINT control)
-    {
-        host.messages.clear();
-        s.Ok();
-        EXPECT_TRUE(s.IsOpen());
-        EXPECT_EQ(host.messages, std::vector<UINT>{message});
-        EXPECT_EQ(s.Dialog().GetFocusCtrl(), &s.Find(control)) << control;
-    }
-
     CShewhartTabData shewhart;
     CXMrTabData xmr;
 };

@@ -24,15 +24,6 @@ class QualityGraphs : public HeadlessDialogTest {
 protected:
     QualityGraphs() : HeadlessDialogTest({u"Y", u"Lot", u"Shift$"}) {}
 
-    void ExpectRefused(CHeadlessSession& s, UINT message, UINT control)
-    {
-        host.messages.clear();
-        s.Ok();
-        EXPECT_TRUE(s.IsOpen());
-        EXPECT_EQ(host.messages, std::vector<UINT>{message});
-        EXPECT_EQ(s.Dialog().GetFocusCtrl(), &s.Find(control)) << control;
-    }
-
     CBoxWhiskerData box;
     CRunChartData run;
     CQaHistogramData histogram;

@@ -24,15 +24,6 @@ protected:
         data.SetstrDialog(row);
         return Open<CArlDlg>(data, {0, 0, 0, 0}, script);
     }
-    void ExpectRefused(CHeadlessSession& s, UINT message, UINT control)
-    {
-        host.messages.clear();
-        s.Ok();
-        EXPECT_TRUE(s.IsOpen());
-        EXPECT_EQ(host.messages, std::vector<UINT>{message});
-        EXPECT_EQ(s.Dialog().GetFocusCtrl(), &s.Find(control)) << control;
-    }
-
     CArlData shewhart;
     CArlData timeWeighted;
 };

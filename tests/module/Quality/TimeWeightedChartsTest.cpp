@@ -39,15 +39,6 @@ protected:
         return cusum;
     }
     // OK refused: the dialog stays open with the focus on `control`.
-    void ExpectRefused(CHeadlessSession& s, UINT message, UINT control)
-    {
-        host.messages.clear();
-        s.Ok();
-        EXPECT_TRUE(s.IsOpen());
-        EXPECT_EQ(host.messages, std::vector<UINT>{message});
-        EXPECT_EQ(s.Dialog().GetFocusCtrl(), &s.Find(control)) << control;
-    }
-
     CCusumData cusum;
     CEWMATabData ewma;
     CMaTabData ma;
