@@ -60,7 +60,7 @@ void CHypPairwiseDlg::DoDataExchange(CDataExchange* pDX)
     const int error = errors->GetCurSel();
     m_Work.m_ErrorTerm = error > 0 ? errors->GetLBText(error) : CString();
     if (!m_Model.IsEstimated() || m_Work.m_Factor.IsEmpty()) {
-        DDX_ControlWarn(pDX, IDC_FACTOR, kMsgNoModel);
+        DDX_ControlWarn(pDX, IDC_FACTOR, CLastModel::NoFactorMessage(m_pData->GetDialogID()));
         return;
     }
     // The model was confirmed on another data sheet, perhaps: its factor

@@ -12,7 +12,6 @@
 class CHypPairwiseDlg : public CGUIPageDlg<CHypPairwiseData>, public CHypPairwiseDlgIds {
     DECLARE_DYNAMIC(CHypPairwiseDlg)
 public:
-    static constexpr UINT kMsgNoModel = 2102;
     static constexpr UINT kMsgErrorIsEffect = 9400;
     static constexpr UINT kResidualText = 2159;
 

@@ -21,6 +21,8 @@ constexpr UINT kMsgNoMixedModel = 8411;
 constexpr UINT kManovaTestCommand = 2026;
 constexpr UINT kManovaCommand = 2025;
 constexpr UINT kMsgNoMultivariateModel = 6403;
+constexpr UINT kMsgNoFactor = 2102;
+constexpr UINT kMsgNoMultivariateFactor = 6404;
 
 std::vector<CString> NamesOf(const CGUIArray<CGUIDataVariable>& list)
 {
@@ -37,11 +39,11 @@ UINT CLastModel::ModelCommand(UINT testCommand)
     switch (testCommand) {
     case 2011:
     case 2012:
-    case 2013:
-    case 2027: return kGlmCommand;
+    case 2013: return kGlmCommand;
     case 2009:
     case 2077: return kAnovaCommand;
     case kMixedTestCommand: return kLinearMixedCommand;
+    case 2027:
     case kManovaTestCommand: return kManovaCommand;
     default: return 0;
     }
@@ -56,11 +58,16 @@ UINT CLastModel::TestCommandOf(const CGUIBaseObj& page)
 
 UINT CLastModel::NoModelMessage(UINT testCommand)
 {
-    switch (testCommand) {
-    case kMixedTestCommand: return kMsgNoMixedModel;
-    case kManovaTestCommand: return kMsgNoMultivariateModel;
+    switch (ModelCommand(testCommand)) {
+    case kLinearMixedCommand: return kMsgNoMixedModel;
+    case kManovaCommand: return kMsgNoMultivariateModel;
     default: return kMsgNoModel;
     }
+}
+
+UINT CLastModel::NoFactorMessage(UINT testCommand)
+{
+    return ModelCommand(testCommand) == kManovaCommand ? kMsgNoMultivariateFactor : kMsgNoFactor;
 }
 
 UINT CLastModel::ModuleId(UINT testCommand)

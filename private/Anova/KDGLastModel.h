@@ -1,15 +1,14 @@
 // CLastModel: the model a hypothesis or pairwise dialog tests. The host
 // keeps the settings of each command in its store; a test of a general
-// linear model (2011, 2012, 2013, and 2027, the multivariate model being a
-// general linear model with several dependent variables) reads the stored
-// settings of the general linear model (2010), a test after an analysis of
-// variance (2009, 2077) those of the ANOVA (2008), the MANOVA hypothesis
-// test (2026) those of the MANOVA estimate model (2025). The model is the one
-// the user last confirmed there: its dependent variables, its terms, and
-// the categorical variables its terms use, the factors a pairwise
-// comparison can take. An ANOVA's terms are the full factorial of its
-// factors followed by its covariates. The mixed models' test (2073) reads
-// the fixed effects of the linear mixed model (2067), or of the
+// linear model (2011, 2012, 2013) reads the stored settings of the general
+// linear model (2010), a test after an analysis of variance (2009, 2077)
+// those of the ANOVA (2008), the tests of the multivariate menu (2026 and
+// the pairwise matrix 2027) those of the MANOVA estimate model (2025). The
+// model is the one the user last confirmed there: its dependent variables,
+// its terms, and the categorical variables its terms use, the factors a
+// pairwise comparison can take. An ANOVA's terms are the full factorial of
+// its factors followed by its covariates. The mixed models' test (2073)
+// reads the fixed effects of the linear mixed model (2067), or of the
 // hierarchical one (2068) while no linear mixed model is stored.
 #pragma once
 
@@ -32,6 +31,9 @@ public:
     static UINT ModuleId(UINT testCommand);
     // The message that refuses a test while no model is stored.
     static UINT NoModelMessage(UINT testCommand);
+    // The same for a comparison of a factor's levels, which needs a model
+    // with a categorical factor.
+    static UINT NoFactorMessage(UINT testCommand);
 
     // Whether a model with at least one dependent variable and one term is
     // stored.
