@@ -1,9 +1,12 @@
 #include "Msg/Stat2SingleMenuItemsMsg.h"
 
+#include "Msg/LaunchDialog.h"
+#include "private/Missing/KDGMissingTabDlg.h"
+
 namespace {
 
 const MenuCommandRow kRows[] = {
-    KAL_MENU_ROW_UNAVAILABLE(2014, CMissingTabDlg, CMissingTabData, 2192),
+    KAL_MENU_ROW(2014, CMissingTabDlg, CMissingTabData, 2192),
     KAL_MENU_ROW_UNAVAILABLE(2059, CSurvivalTabDlg, CSurvivalTabData, 2294),
     KAL_MENU_ROW_UNAVAILABLE(2063, CRsmEstimateTabDlg, CRsmEstimateTabData),
     KAL_MENU_ROW_UNAVAILABLE(2065, CSurvivalNParTabDlg, CSurvivalNParTabData),
