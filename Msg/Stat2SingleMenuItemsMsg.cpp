@@ -2,14 +2,16 @@
 
 #include "Msg/LaunchDialog.h"
 #include "private/Missing/KDGMissingTabDlg.h"
+#include "private/Survival/KDGSurvivalNParTabDlg.h"
+#include "private/Survival/KDGSurvivalTabDlg.h"
 
 namespace {
 
 const MenuCommandRow kRows[] = {
     KAL_MENU_ROW(2014, CMissingTabDlg, CMissingTabData, 2192),
-    KAL_MENU_ROW_UNAVAILABLE(2059, CSurvivalTabDlg, CSurvivalTabData, 2294),
+    KAL_MENU_ROW(2059, CSurvivalTabDlg, CSurvivalTabData, 2294),
     KAL_MENU_ROW_UNAVAILABLE(2063, CRsmEstimateTabDlg, CRsmEstimateTabData),
-    KAL_MENU_ROW_UNAVAILABLE(2065, CSurvivalNParTabDlg, CSurvivalNParTabData),
+    KAL_MENU_ROW(2065, CSurvivalNParTabDlg, CSurvivalNParTabData),
     KAL_MENU_ROW_UNAVAILABLE(2078, CRsmOptimizationTabDlg, CRsmOptimizationTabData, 2395),
     KAL_MENU_ROW_UNAVAILABLE(2079, CRsmPlotDlg, CRsmPlotData, 2396),
 };

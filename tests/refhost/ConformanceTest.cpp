@@ -28,6 +28,8 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "select 5541 Y\nclick 5543\ntype 5558 10\n";
     if (id == "2014")
         return "page 0\nselect 8501 Y Y2\nclick 8503\n";
+    if (id == "2059" || id == "2065")
+        return "page 0\nselect 8601 Y\nclick 8603\n";
     return {};
 }
 
