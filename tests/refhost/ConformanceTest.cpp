@@ -30,6 +30,11 @@ std::string ChooseRequiredVariables(const std::string& id)
         return "page 0\nselect 8501 Y Y2\nclick 8503\n";
     if (id == "2059" || id == "2065")
         return "page 0\nselect 8601 Y\nclick 8603\n";
+    if (id == "2063" || id == "2078" || id == "2079") {
+        const std::string factors = "page 0\nselect 8701 Y\nclick 8703\nselect 8701 X X2\nclick 8707\n"
+                                    "cell 8710 1 2 0\ncell 8710 1 3 1\ncell 8710 2 2 0\ncell 8710 2 3 1\n";
+        return id == "2078" ? factors + "page 1\ncell 8761 1 2 max\ncell 8761 1 3 0\ncell 8761 1 5 1\n" : factors;
+    }
     return {};
 }
 
