@@ -505,7 +505,12 @@ StoreFileState InspectStoreFile(const std::filesystem::path& file)
     if (std::memcmp(start, kMagic, static_cast<std::size_t>(n)) != 0)
         throw StoreAccessError(name + " is not a kalhost settings store (it does not start with KALSTORE), so it is "
                                       "left as it is: give --store a store, or the name of one to create");
-    state.writable = ::access(target.c_str(), W_OK) == 0 && ::access(FolderOf(target).c_str(), W_OK | X_OK) == 0;
+    // A store nobody may write (every write bit cleared) was made read-only
+    // on purpose: it stays as it is even for a user whom the system would
+    // let write it anyway.
+    const bool markedReadOnly = (info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
+    state.writable =
+        !markedReadOnly && ::access(target.c_str(), W_OK) == 0 && ::access(FolderOf(target).c_str(), W_OK | X_OK) == 0;
     return state;
 }
 

@@ -15,6 +15,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <iterator>
 
 using namespace kalhost;
 namespace fs = std::filesystem;
@@ -181,6 +182,19 @@ TEST(BadInput, EveryOneIsRefusedOrSetAsideWithASentenceAndNothingRightIsLost)
              EXPECT_EQ(info.st_mode & 07777, 0640u);
              EXPECT_EQ(info.st_uid, ::geteuid() == 0 ? 4242u : ::geteuid());
              EXPECT_EQ(ReadStoreFile(d + kStore).entries.size(), 1u);
+         }},
+        {"a read-only store, used and kept as it is",
+         [](const std::string& d) {
+             WriteFile(d + kStore, StoreBytes({AnovaEntry()}));
+             ::chmod((d + kStore).c_str(), 0444);
+             return std::vector<std::string>{"--store", d + kStore, "play", Sample("anova.kal")};
+         },
+         "", 0, "it is read-only, so the choices of this session will not be saved",
+         [](const std::string& d, const kaltest::ProcessResult& r) {
+             EXPECT_NE(r.out.find("ANOVA"), std::string::npos) << r.out;
+             std::ifstream in(d + kStore, std::ios::binary);
+             const std::vector<BYTE> after{std::istreambuf_iterator<char>(in), {}};
+             EXPECT_EQ(after, StoreBytes({AnovaEntry()})); // byte for byte as it was
          }},
         {"an empty --store",
          [](const std::string&) {
