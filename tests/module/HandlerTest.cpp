@@ -3,9 +3,12 @@
 #include "Msg/QualityAnalysisMsg.h"
 #include "Msg/RegressionMsg.h"
 #include "Msg/Stat2SingleMenuItemsMsg.h"
+#include "platform/HeadlessDriver.h"
 #include "tests/support/FakeHost.h"
 
 #include <gtest/gtest.h>
+
+#include <vector>
 
 using namespace kaltest;
 
@@ -23,10 +26,20 @@ TEST(Handlers, RecordTheIdAndAnswerOnlyTheirRows)
     quality.OnKVCommand(2044);
     EXPECT_TRUE(host.messages.empty());
 
+    // Each of the six rows opens its dialog (cancelled at once) over the
+    // settings the host keeps for it; the ids between them open nothing.
+    CHeadlessDriver driver;
+    driver.SetScript([](CHeadlessSession& s) { s.Cancel(); });
+    CDialogDriver* previous = AfxSetDialogDriver(&driver);
     CStat2SingleMenuItemsMsg single(&host);
     for (UINT id = 2014; id <= 2079; ++id)
         single.OnKVCommand(id);
-    EXPECT_EQ(host.messages.size(), 6u); // 2014, 2059, 2063, 2065, 2078, 2079
+    AfxSetDialogDriver(previous);
+    EXPECT_TRUE(host.messages.empty());
+    std::vector<UINT> opened;
+    for (const auto& [id, settings] : host.store)
+        opened.push_back(id);
+    EXPECT_EQ(opened, (std::vector<UINT>{2014, 2059, 2063, 2065, 2078, 2079}));
 }
 
 TEST(Handlers, RowsWithoutTheirAnalysisReportNotAvailable)
