@@ -47,7 +47,7 @@ void ExpectNoAssertion(const ProcessResult& r, const std::string& what)
 // confirms one comes first, in the same store.
 std::string ModelSessionFor(const std::string& id)
 {
-    const std::string glm = "open 2010\nselect 2121 Y Y2\nclick 2123\nselect 2121 A B\nclick 2137\nok\n";
+    std::string glm = "open 2010\nselect 2121 Y Y2\nclick 2123\nselect 2121 A B\nclick 2137\nok\n";
     const std::string anova = "open 2008\nselect 1075 Y\nclick 1067\nok\n";
     if (id == "2011" || id == "2012" || id == "2013" || id == "2027")
         return glm;
