@@ -1,10 +1,14 @@
 #include "Msg/MixedRegressionMsg.h"
 
+#include "Msg/LaunchDialog.h"
+#include "private/Mixed/KDGMixedDataTabDlg.h"
+#include "private/Mixed/KDGMixedTabDlg.h"
+
 namespace {
 
 const MenuCommandRow kRows[] = {
-    KAL_MENU_ROW_UNAVAILABLE(2015, CMixedTabDlg, CMixedTabData, 2194),
-    KAL_MENU_ROW_UNAVAILABLE(2016, CMixedDataTabDlg, CMixedDataTabData, 2193),
+    KAL_MENU_ROW(2015, CMixedTabDlg, CMixedTabData, 2194),
+    KAL_MENU_ROW(2016, CMixedDataTabDlg, CMixedDataTabData, 2193),
 };
 
 } // namespace

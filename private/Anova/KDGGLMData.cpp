@@ -11,7 +11,7 @@ IMPLEMENT_SERIAL(CGLMData, CGUIBaseObj, 1)
 
 void CGLMData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
 {
-    AddModuleCmd(kModuleGlm, list);
+    AddModuleCmd(GetOwnerID() == kOwnerLinearMixedModel ? kModuleMixed : kModuleGlm, list);
 
     // The constant counts only while its check box is both checked and
     // enabled: a mixture model or matrix data have none.

@@ -17,6 +17,10 @@ class CGLMData : public CGUIBaseObj {
     DECLARE_SERIAL(CGLMData)
 public:
     static constexpr UINT kModuleGlm = 12906;
+    // The linear mixed model's fixed effects are this page under owner
+    // 2356: the lines are the same but for the module's name.
+    static constexpr UINT kOwnerLinearMixedModel = 2356;
+    static constexpr UINT kModuleMixed = 13000;
     // The save list is the linear regression's.
     static constexpr UINT kSaveCombo = 4186;
     static constexpr int kSaveComboLast = 6;

@@ -93,7 +93,8 @@ void CHypothesisDlg::DoDataExchange(CDataExchange* pDX)
             m_Work.m_Rows.Add(text);
     }
     const UINT problem = Validate();
-    DDX_ControlWarn(pDX, problem == kMsgNoModel || problem == kMsgUnknownVariable ? IDC_EFFECT : IDC_GRID, problem);
+    const bool onEffect = !m_Model.IsEstimated() || problem == kMsgUnknownVariable;
+    DDX_ControlWarn(pDX, onEffect ? IDC_EFFECT : IDC_GRID, problem);
 }
 
 UINT CHypothesisDlg::MatrixProblem(const CString& text)
@@ -126,7 +127,7 @@ UINT CHypothesisDlg::TermProblem(const CString& term)
 UINT CHypothesisDlg::Validate() const
 {
     if (!m_Model.IsEstimated())
-        return kMsgNoModel;
+        return CLastModel::NoModelMessage(m_pData ? CLastModel::TestCommandOf(*m_pData) : 0);
     const CGUIArray<CString>& rows = m_Work.m_Rows;
     if (m_Work.IsSpecify()) {
         for (const CString& row : rows)

@@ -5,11 +5,18 @@
 #include "private/Anova/KDGAnovaTabData.h"
 #include "private/Anova/KDGGLMTabData.h"
 #include "private/Anova/KDGModelTerms.h"
+#include "private/Mixed/KDGMixedModelHierarchicalLinearMixedModelTabDlg.h"
+#include "private/Mixed/KDGMixedModelLinearMixedModelTabDlg.h"
 
 namespace {
 
 constexpr UINT kGlmCommand = 2010;
 constexpr UINT kAnovaCommand = 2008;
+constexpr UINT kMixedTestCommand = 2073;
+constexpr UINT kLinearMixedCommand = 2067;
+constexpr UINT kHierarchicalMixedCommand = 2068;
+constexpr UINT kMsgNoModel = 2104;
+constexpr UINT kMsgNoMixedModel = 8411;
 
 std::vector<CString> NamesOf(const CGUIArray<CGUIDataVariable>& list)
 {
@@ -30,6 +37,7 @@ UINT CLastModel::ModelCommand(UINT testCommand)
     case 2027: return kGlmCommand;
     case 2009:
     case 2077: return kAnovaCommand;
+    case kMixedTestCommand: return kLinearMixedCommand;
     default: return 0;
     }
 }
@@ -41,26 +49,58 @@ UINT CLastModel::TestCommandOf(const CGUIBaseObj& page)
     return parent ? parent->GetDialogID() : page.GetDialogID();
 }
 
+UINT CLastModel::NoModelMessage(UINT testCommand)
+{
+    return testCommand == kMixedTestCommand ? kMsgNoMixedModel : kMsgNoModel;
+}
+
 UINT CLastModel::ModuleId(UINT testCommand)
 {
+    if (testCommand == kMixedTestCommand)
+        return CGLMData::kModuleMixed;
     return ModelCommand(testCommand) == kAnovaCommand ? CAnovaData::kModuleAnova : CGLMData::kModuleGlm;
+}
+
+CLastModel CLastModel::FromModelPage(const CGLMData& page)
+{
+    CLastModel model;
+    model.m_Dependents = page.GetDependentList();
+    model.m_Terms = page.GetTerms();
+    const std::vector<CString> categorical = NamesOf(page.GetCategoryList());
+    const auto used = CModelTerms::UsedAmong(model.m_Terms, categorical);
+    for (const CString& name : categorical)
+        if (used.count(name))
+            model.m_Factors.push_back(name);
+    return model;
+}
+
+CLastModel CLastModel::ForMixedModel(IGlobal& host)
+{
+    if (auto* linear = dynamic_cast<CMixedModelLinearMixedModelTabData*>(host.GetSettings(kLinearMixedCommand))) {
+        CLastModel model = FromModelPage(*linear->GetFixedEffectsData());
+        if (model.IsEstimated())
+            return model;
+    }
+    CLastModel model;
+    if (auto* levels = dynamic_cast<CMixedModelHierarchicalLinearMixedModelTabData*>(
+            host.GetSettings(kHierarchicalMixedCommand))) {
+        const CHlmLevelsData& page = *levels->GetLevelsData();
+        model.m_Dependents = page.GetDependentList();
+        model.m_Terms = page.Terms();
+    }
+    return model;
 }
 
 CLastModel CLastModel::For(UINT testCommand)
 {
     CLastModel model;
     IGlobal* host = kal::framework::Host();
+    if (host && testCommand == kMixedTestCommand)
+        return ForMixedModel(*host);
     const UINT command = ModelCommand(testCommand);
     CGUIBaseObj* stored = host && command ? host->GetSettings(command) : nullptr;
     if (auto* glm = dynamic_cast<CGLMTabData*>(stored)) {
-        const CGLMData& page = *glm->GetGLMData();
-        model.m_Dependents = page.GetDependentList();
-        model.m_Terms = page.GetTerms();
-        const std::vector<CString> categorical = NamesOf(page.GetCategoryList());
-        const auto used = CModelTerms::UsedAmong(model.m_Terms, categorical);
-        for (const CString& name : categorical)
-            if (used.count(name))
-                model.m_Factors.push_back(name);
+        model = FromModelPage(*glm->GetGLMData());
     } else if (auto* anova = dynamic_cast<CAnovaTabData*>(stored)) {
         const CAnovaData& page = *anova->GetAnovaData();
         model.m_Dependents = page.GetDependentList();

@@ -7,7 +7,9 @@
 // the user last confirmed there: its dependent variables, its terms, and
 // the categorical variables its terms use, the factors a pairwise
 // comparison can take. An ANOVA's terms are the full factorial of its
-// factors followed by its covariates.
+// factors followed by its covariates. The mixed models' test (2073) reads
+// the fixed effects of the linear mixed model (2067), or of the
+// hierarchical one (2068) while no linear mixed model is stored.
 #pragma once
 
 #include "framework/GUIArray.h"
@@ -27,6 +29,8 @@ public:
     static UINT TestCommandOf(const class CGUIBaseObj& page);
     // The module-name string id of the model's module.
     static UINT ModuleId(UINT testCommand);
+    // The message that refuses a test while no model is stored.
+    static UINT NoModelMessage(UINT testCommand);
 
     // Whether a model with at least one dependent variable and one term is
     // stored.
@@ -36,6 +40,9 @@ public:
     const std::vector<CString>& GetFactors() const { return m_Factors; }
 
 private:
+    static CLastModel FromModelPage(const class CGLMData& page);
+    static CLastModel ForMixedModel(class IGlobal& host);
+
     CGUIArray<CGUIDataVariable> m_Dependents;
     CGUIArray<CString> m_Terms;
     std::vector<CString> m_Factors;

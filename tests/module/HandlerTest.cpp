@@ -45,13 +45,13 @@ TEST(Handlers, RecordTheIdAndAnswerOnlyTheirRows)
 TEST(Handlers, RowsWithoutTheirAnalysisReportNotAvailable)
 {
     FakeHost host;
-    CRegressionMsg regression(&host);
-    regression.OnKVCommand(2070);
+    CStat2SingleMenuItemsMsg single(&host);
+    single.OnKVCommand(2079);
     ASSERT_EQ(host.messages.size(), 1u);
     EXPECT_EQ(host.messages[0], 100190500u);
     EXPECT_TRUE(host.store.empty());
-    EXPECT_NE(regression.FindRow(2070), nullptr);
-    EXPECT_EQ(regression.FindRow(2002), nullptr);
+    EXPECT_NE(single.FindRow(2079), nullptr);
+    EXPECT_EQ(single.FindRow(2002), nullptr);
 }
 
 TEST(Handlers, AMissingGlobalIsReportedFromTheHandlersSource)

@@ -35,6 +35,37 @@ std::string ChooseRequiredVariables(const std::string& id)
                                     "cell 8710 1 2 0\ncell 8710 1 3 1\ncell 8710 2 2 0\ncell 8710 2 3 1\n";
         return id == "2078" ? factors + "page 1\ncell 8761 1 2 max\ncell 8761 1 3 0\ncell 8761 1 5 1\n" : factors;
     }
+    if (id == "2030" || id == "2031")
+        return "page 0\nselect 7601 Y\nclick 7602\ntype 7607 b0*X\ntype 7609 ABS(RESIDUAL)\ncell 7611 1 1 b0\n"
+               "cell 7611 1 2 1\n";
+    if (id == "2058")
+        return "select 7804 Y\nclick 7805\nselect 7804 X\nclick 7809\n";
+    if (id == "2064")
+        return "select 7851 Y\nclick 7852\nselect 7851 X X2\nclick 7856\n";
+    if (id == "2032")
+        return "page 0\nselect 7701 Y\nclick 7702\nselect 7701 X\nclick 7714\n";
+    if (id == "2050")
+        return "select 7751 Y\nclick 7752\n";
+    // The mixed models and mixed regression: a dependent variable and the
+    // subjects, groups or ids.
+    if (id == "2067")
+        return "page 0\nselect 2121 Y\nclick 2123\npage 1\nselect 8101 B\nclick 8107\n";
+    if (id == "2068")
+        return "page 0\nselect 8141 Y\nclick 8143\nselect 8141 B\nclick 8147\n";
+    if (id == "2069")
+        return "select 8181 Y\nclick 8183\nselect 8181 B\nclick 8187\n";
+    if (id == "2015")
+        return "page 0\nselect 8241 Y\nclick 8243\nselect 8241 B\nclick 8255\n";
+    if (id == "2016")
+        return "select 8324 B\nclick 8326\nselect 8324 A\nclick 8330\n";
+    // The regressions on the shared model page; two-stage least squares
+    // also needs an endogenous regressor and its instrument.
+    constexpr const char* kModel = "page 0\nselect 7001 Y\nclick 7004\nselect 7001 X\nclick 7006\n";
+    if (id == "2001")
+        return std::string(kModel) + "page 1\nselect 7141 X\nclick 7144\nselect 7141 W\nclick 7146\n";
+    for (const char* row : {"2052", "2053", "2054", "2055", "2056", "2070", "2071", "2072", "2074", "2075", "2076"})
+        if (id == row)
+            return kModel;
     return {};
 }
 
@@ -48,9 +79,14 @@ void ExpectNoAssertion(const ProcessResult& r, const std::string& what)
 std::string ModelSessionFor(const std::string& id)
 {
     std::string glm = "open 2010\nselect 2121 Y Y2\nclick 2123\nselect 2121 A B\nclick 2137\nok\n";
-    const std::string anova = "open 2008\nselect 1075 Y\nclick 1067\nok\n";
+    std::string anova = "open 2008\nselect 1075 Y\nclick 1067\nok\n";
     if (id == "2011" || id == "2012" || id == "2013" || id == "2027")
         return glm;
+    if (id == "2005" || id == "2006" || id == "2007")
+        return "open 2004\nselect 2681 Y\nclick 2685\nselect 2681 X\nclick 2687\nok\n";
+    if (id == "2073")
+        return "open 2067\nselect 2121 Y\nclick 2123\nselect 2121 A\nclick 2132\npage 1\nselect 8101 B\nclick "
+               "8107\nok\n";
     return id == "2009" || id == "2077" ? anova : std::string();
 }
 

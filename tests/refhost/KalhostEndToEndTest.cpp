@@ -94,9 +94,9 @@ TEST(KalhostRouting, UnknownCommandsAreBadUsageAndTheListShowsTheRows)
     const std::string anova = row(list.out, "2008");
     EXPECT_LT(anova.find("Analysis of Variance > Estimate Model..."), anova.find("CAnalysisofVarianceMsg")) << anova;
     EXPECT_TRUE(anova.ends_with(" available")) << anova;
-    EXPECT_TRUE(row(list.out, "2070").ends_with(" not available"));
+    EXPECT_TRUE(row(list.out, "2079").ends_with(" not available"));
     const auto available = Kalhost({"list", "--available"});
-    EXPECT_EQ(row(available.out, "2070"), "");
+    EXPECT_EQ(row(available.out, "2079"), "");
     EXPECT_EQ(row(available.out, "2008"), anova);
 }
 

@@ -50,6 +50,29 @@ const char* const kChoiceLines = "LOGIT\n"
                                  "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
                                  "ESTIMATE / CONFI = 0.9 ITER = 100\n";
 
+const char* const kSimulationLines = "LOGIT\nSIMULATE / DRAWS = 5000 RSEED = 17\nSCENARIO income = 30\n"
+                                     "SCENARIO income = 60, age = 30\n";
+
+const char* const kLossLines = "NONLIN\nMODEL height = top/(1 + EXP(-rate*(days - mid)))\nLOSS = ABS(RESIDUAL)\n"
+                               "PARAMETERS top = 60, rate = 0.1, mid = 30\nESTIMATE / METHOD = SIMPLEX\n";
+
+const char* const kSmoothLines =
+    "SMOOTH\nMODEL height = days\nSAVE 'smoothed.kvd' / SMOOTHED\nESTIMATE / LOWESS SPAN = 0.4\n";
+
+const char* const kPlsLines = "PLS\nMODEL yield yield2 = dose+rain+weight\nESTIMATE / COMPONENTS = 3 CV = 5\n";
+
+const char* const kProbitLines = "PROBIT\nMODEL dead = CONSTANT+LOG10(dose) / TOTAL = total\n"
+                                 "ESTIMATE / NATURAL = ESTIMATE SAMPLE = BOOT(1000)\n";
+
+const char* const kBayesLines =
+    "BAYES\nMODEL yield = CONSTANT+dose+rain\n"
+    "PRIOR / COEF = NORMAL(0, 25) VARIANCE = JEFFREYS\nESTIMATE / DRAWS = 20000 RSEED = 7\n";
+
+const char* const kVarCompLines = "VARCOMP\nMODEL Y = CONSTANT+A+B+A*B\nCATEGORY A B / REPLACE\nRANDOM B A*B\n"
+                                  "ESTIMATE / METHOD = REML\n";
+const char* const kMixRegLines = "MIXREG\nMODEL Y2 = CONSTANT+X+X2 / LINK = LOGISTIC\nRANDOM INTERCEPT+X2 / GROUP = B\n"
+                                 "ESTIMATE / CORRELATED QUAD = 20\n";
+
 } // namespace
 
 TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
@@ -125,6 +148,72 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "2035", "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\n",
          // The CUSUM page shows its own controls, not the limits.
          "expect checked 5478 1\nexpect text 5488 4\nexpect visible 5470 0\ncancel\n", 1, "", ""},
+        {"logit-follow-ups.kal", "commute.csv",
+         "LOGIT\nMODEL car = CONSTANT+income+age\nESTIMATE \nLOGIT\nPREDICT / AT income = 40\nMARGINS / AVERAGE\n"
+         "CLASSIFY / CUT = 0.4\nLOGIT\nQUANTILES region / GROUPS = 5\n" +
+             std::string(kSimulationLines),
+         "2007", kSimulationLines,
+         // The model is read again: its text names it, and the scenarios are back.
+         "expect text 7542 car = income+age\nexpect text 7544 5000\nok\n", 0, "", kSimulationLines},
+        {"nonlinear.kal", "growth.csv",
+         "NONLIN\nMODEL height = top/(1 + EXP(-rate*(days - mid)))\nPARAMETERS top = 60, rate = 0.1, mid = 30\n"
+         "LIMITS top >= 0\nSAVE 'growth.kvd' / RESIDUALS/DATA\nESTIMATE / METHOD = MARQUARDT ITER = 200\n" +
+             std::string(kLossLines),
+         "2031", kLossLines,
+         // The loss and the parameters are back; the start of the rate changes.
+         "expect text 7609 ABS(RESIDUAL)\ncell 7611 2 2 0.2\nok\n", 0, "",
+         "NONLIN\nMODEL height = top/(1 + EXP(-rate*(days - mid)))\nLOSS = ABS(RESIDUAL)\n"
+         "PARAMETERS top = 60, rate = 0.2, mid = 30\nESTIMATE / METHOD = SIMPLEX\n"},
+        {"smooth.kal", "growth.csv", kSmoothLines, "2058", kSmoothLines,
+         // Back with the span and the file; the spline writes only its own number.
+         "expect text 7816 0.4\nexpect text 7823 smoothed.kvd\nclick 7802\nok\n", 0, "",
+         "SMOOTH\nMODEL height = days\nSAVE 'smoothed.kvd' / SMOOTHED\nESTIMATE / SPLINE\n"},
+        {"pls.kal", "plants.csv", kPlsLines, "2064", kPlsLines,
+         // Back with cross-validation; a fixed number leaves the folds out.
+         "expect checked 7862 1\nexpect items 7859 dose rain weight\nclick 7861\nok\n", 0, "",
+         "PLS\nMODEL yield yield2 = dose+rain+weight\nESTIMATE / COMPONENTS = 3\n"},
+        {"probit.kal", "dose-response.csv", kProbitLines, "2032", kProbitLines,
+         // Back with counts and the bootstrap; the dose as it is.
+         "expect checked 7707 1\nexpect items 7709 total\nchoose 7722 0\nok\n", 0, "",
+         "PROBIT\nMODEL dead = CONSTANT+dose / TOTAL = total\nESTIMATE / NATURAL = ESTIMATE SAMPLE = BOOT(1000)\n"},
+        {"bayesian.kal", "plants.csv", kBayesLines, "2050", kBayesLines,
+         // Back with the normal prior; the inverse gamma states its parameters.
+         "expect checked 7763 1\nexpect text 7767 25\nclick 7770\nok\n", 0, "",
+         "BAYES\nMODEL yield = CONSTANT+dose+rain\nPRIOR / COEF = NORMAL(0, 25) VARIANCE = IGAMMA(0.01, 0.01)\n"
+         "ESTIMATE / DRAWS = 20000 RSEED = 7\n"},
+        {"mixed-models.kal", "",
+         "MIXED\nMODEL Y = CONSTANT+A+X\nCATEGORY A / REPLACE\nRANDOM INTERCEPT+X / SUBJECT = B TYPE = UN\n"
+         "ESTIMATE / METHOD = REML\nMIXED\nHYPOTHESIS\nEFFECT = A\nCONTRAST / DIFFERENCE\nTEST / DDF = KR\n"
+         "MIXED\nMODEL Y = CONSTANT+X+X2+W+X*W / CENTER = GROUP\nRANDOM INTERCEPT+X / SUBJECT = B TYPE = UN\n"
+         "ESTIMATE / METHOD = ML\n" +
+             std::string(kVarCompLines),
+         "2069", kVarCompLines,
+         // Reopened, the factors and the method are back; without the
+         // interactions only the soils are random.
+         "expect items 8186 B\nexpect items 8190 A\nexpect combo 8198 2\ncheck 8207 0\nok\n", 0, "",
+         "VARCOMP\nMODEL Y = CONSTANT+A+B\nCATEGORY A B / REPLACE\nRANDOM B\nESTIMATE / METHOD = REML\n"},
+        {"mixed-regression.kal", "",
+         "MIXREG\nDATA T1 T2 T3 / WIDE ID = B TIMES = 0 1 3\nSAVE 'harvests-long.kvd'\n" + std::string(kMixRegLines),
+         "2015", kMixRegLines, "expect items 8250 X2\nexpect combo 8259 1\npage 1\nexpect text 8281 20\nok\n", 0, "",
+         kMixRegLines},
+        {"regression-models.kal", "plants.csv",
+         "RIDGE\nMODEL yield = CONSTANT+dose+rain\nSAVE 'ridge-trace.kvd' / COEFFICIENTS\n"
+         "ESTIMATE / KGRID = 0,0.5,0.01\n"
+         "LADREG\nMODEL yield = CONSTANT+dose+rain / WEIGHT = weight\n"
+         "ESTIMATE / QUANTILE = 0.9 CI = BOOTSTRAP SAMPLES = 1000\n"
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nSAVE 'lts.kvd' / RESIDUALS/WEIGHTS\n"
+         "ESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n"
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / M WEIGHT = BISQUARE C = 4.685 SCALE = HUBER\n"
+         "RANKREG\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / SCORES = NORMAL WEIGHTS = HBR\n"
+         "TSLS\nMODEL yield2 = CONSTANT+dose+yield\nENDOGENOUS yield\nINSTRUMENTS rain\nESTIMATE / FIRST\n",
+         "2070",
+         "ROBUST\nMODEL yield = CONSTANT+dose+rain\nSAVE 'lts.kvd' / RESIDUALS/WEIGHTS\n"
+         "ESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n",
+         // The trimmed fit comes back with its coverage and file; without
+         // saving only the estimation follows the model.
+         "expect items 7003 dose rain\npage 1\nexpect text 7082 0.75\nexpect text 7103 lts.kvd\n"
+         "check 7101 0\nok\n",
+         0, "", "ROBUST\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n"},
         {"missing.kal", "",
          "MISSEM\nMODEL Y Y2 X X2\nGROUP A\nPATTERN / CUTOFF = 5\nSAVE 'completed.kvd' / DATA\n"
          "ESTIMATE / EM ITER = 50 MCAR MATRIX = SSCP\n",

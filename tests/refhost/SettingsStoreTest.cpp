@@ -43,7 +43,7 @@ TEST(SettingsStoreFile, RoundTripsObjectsAndCarriesUnknownClasses)
     kaltest::TempDir dir;
     const std::filesystem::path file = dir.Path() + "/settings.store";
 
-    WriteStoreFile(file, {{2052, "CRidgeRegressionData", {1, 2, 3}}});
+    WriteStoreFile(file, {{2066, "CNotInThisModuleData", {1, 2, 3}}});
     {
         SettingsStore withForeign;
         withForeign.Load(file);
@@ -56,7 +56,7 @@ TEST(SettingsStoreFile, RoundTripsObjectsAndCarriesUnknownClasses)
     EXPECT_EQ(LinesOf(*loaded.Get(2008)), LinesOf(*std::unique_ptr<CAnovaTabData>(Anova())));
     const auto entries = ReadStoreFile(file).entries;
     ASSERT_EQ(entries.size(), 2u);
-    EXPECT_EQ(entries[0].className, "CRidgeRegressionData");
+    EXPECT_EQ(entries[0].className, "CNotInThisModuleData");
     EXPECT_EQ(entries[0].record, (std::vector<BYTE>{1, 2, 3}));
     EXPECT_EQ(entries[1].className, "CAnovaTabData");
     // Nothing changed: the file is not rewritten.
@@ -70,7 +70,7 @@ TEST(SettingsStoreFile, DamageCostsTheDamagedEntryOnly)
     kaltest::FakeHost host;
     std::unique_ptr<CAnovaTabData> anova(Anova());
     const std::vector<StoreEntry> originals = {
-        SaveEntry(2008, *anova), {2052, "CRidgeRegressionData", {1, 2, 3}}, SaveEntry(2009, *anova)};
+        SaveEntry(2008, *anova), {2066, "CNotInThisModuleData", {1, 2, 3}}, SaveEntry(2009, *anova)};
     const std::vector<BYTE> whole = StoreBytes(originals);
     const auto isOriginal = [&](const StoreEntry& e) {
         return std::any_of(originals.begin(), originals.end(), [&](const StoreEntry& o) {

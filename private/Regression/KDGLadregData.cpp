@@ -1,0 +1,3 @@
+#include "private/Regression/KDGLadregData.h"
+
+IMPLEMENT_SERIAL(CLadregData, CGUITabData, 1)

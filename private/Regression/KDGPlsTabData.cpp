@@ -1,0 +1,3 @@
+#include "private/Regression/KDGPlsTabData.h"
+
+IMPLEMENT_SERIAL(CPlsTabData, CGUITabData, 1)

@@ -1,0 +1,3 @@
+#include "private/Regression/KDGProbitTabData.h"
+
+IMPLEMENT_SERIAL(CProbitTabData, CGUITabData, 1)

@@ -1,0 +1,3 @@
+#include "private/Regression/KDGRankRegressionData.h"
+
+IMPLEMENT_SERIAL(CRankRegressionData, CGUITabData, 1)

@@ -1,0 +1,3 @@
+#include "private/Regression/KDGRidgeRegressionData.h"
+
+IMPLEMENT_SERIAL(CRidgeRegressionData, CGUITabData, 1)

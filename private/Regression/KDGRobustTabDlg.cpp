@@ -1,0 +1,8 @@
+#include "private/Regression/KDGRobustTabDlg.h"
+
+IMPLEMENT_DYNAMIC(CMregLmsregTabDlg, CGUITabDlg)
+IMPLEMENT_DYNAMIC(CMregLtsTabDlg, CGUITabDlg)
+IMPLEMENT_DYNAMIC(CMregSregTabDlg, CGUITabDlg)
+IMPLEMENT_DYNAMIC(CMregMmregTabDlg, CGUITabDlg)
+IMPLEMENT_DYNAMIC(CLadregMcdregTabDlg, CGUITabDlg)
+IMPLEMENT_DYNAMIC(CMregTabDlg, CGUITabDlg)

@@ -1,0 +1,3 @@
+#include "private/Regression/KDGSmoothTabData.h"
+
+IMPLEMENT_SERIAL(CSmoothTabData, CGUITabData, 1)

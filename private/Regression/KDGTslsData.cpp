@@ -1,0 +1,3 @@
+#include "private/Regression/KDGTslsData.h"
+
+IMPLEMENT_SERIAL(CTslsData, CGUITabData, 1)
