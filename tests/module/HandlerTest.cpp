@@ -42,16 +42,30 @@ TEST(Handlers, RecordTheIdAndAnswerOnlyTheirRows)
     EXPECT_EQ(opened, (std::vector<UINT>{2014, 2059, 2063, 2065, 2078, 2079}));
 }
 
+namespace {
+
+// Every row of the module's handlers has its dialog now: a handler of one
+// row without it stands for a module that lacks an analysis.
+const MenuCommandRow kUnavailableRows[] = {KAL_MENU_ROW_UNAVAILABLE(2079, CRsmPlotDlg, CRsmPlotData, 2396)};
+
+class CUnavailableMsg : public CMenuGroupMsg {
+public:
+    explicit CUnavailableMsg(IGlobal* global) : CMenuGroupMsg(global, "Msg/UnavailableMsg", kUnavailableRows) {}
+    const char* GetHandlerName() const override { return "CUnavailableMsg"; }
+};
+
+} // namespace
+
 TEST(Handlers, RowsWithoutTheirAnalysisReportNotAvailable)
 {
     FakeHost host;
-    CStat2SingleMenuItemsMsg single(&host);
-    single.OnKVCommand(2079);
+    CUnavailableMsg handler(&host);
+    handler.OnKVCommand(2079);
     ASSERT_EQ(host.messages.size(), 1u);
     EXPECT_EQ(host.messages[0], 100190500u);
     EXPECT_TRUE(host.store.empty());
-    EXPECT_NE(single.FindRow(2079), nullptr);
-    EXPECT_EQ(single.FindRow(2002), nullptr);
+    EXPECT_NE(handler.FindRow(2079), nullptr);
+    EXPECT_EQ(handler.FindRow(2002), nullptr);
 }
 
 TEST(Handlers, AMissingGlobalIsReportedFromTheHandlersSource)
