@@ -40,6 +40,9 @@ public:
     virtual NmsEnum::VARIABLETYPE GetVariableType(int index) = 0;
     // Indexes of the variables the sheet treats as categorical.
     virtual std::vector<int> GetCategoricalIndexes() = 0;
+    // The number of cases (rows of data), or -1 where the sheet does not
+    // tell; dialogs that need cases judge entries against it.
+    virtual int GetCaseCount() { return -1; }
 
 protected:
     ~IDataSheet() = default;

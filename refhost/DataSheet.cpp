@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
+#include <climits>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -609,6 +610,11 @@ NmsEnum::VARIABLETYPE DataSheet::GetVariableType(int index)
 std::vector<int> DataSheet::GetCategoricalIndexes()
 {
     return {m_categorical.begin(), m_categorical.end()};
+}
+
+int DataSheet::GetCaseCount()
+{
+    return static_cast<int>(std::min<std::size_t>(m_cases, INT_MAX));
 }
 
 } // namespace kalhost

@@ -55,6 +55,7 @@ public:
     CString GetVariableName(int index, int nameForm) override;
     NmsEnum::VARIABLETYPE GetVariableType(int index) override;
     std::vector<int> GetCategoricalIndexes() override;
+    int GetCaseCount() override;
 
     const std::vector<Variable>& Variables() const { return m_variables; }
     std::size_t CaseCount() const { return m_cases; }

@@ -75,8 +75,11 @@ const std::set<CString>& HostGlobal::ModuleNames()
     // The command modules the engine knows: the module lines settings
     // write. Looked up when the first line runs, so that a run without
     // lines needs no resources.
+    // Every module name the analyses write lives in one block of the
+    // string table, so a new analysis's module is known here as soon as
+    // its name is added there.
     if (m_moduleNames.empty()) {
-        for (const UINT id : {12894u, 12914u, 12902u, 12933u, 12910u, 12920u})
+        for (UINT id = kFirstModuleName; id <= kLastModuleName; ++id)
             if (const CString name = m_resources.GetString(id); !name.IsEmpty())
                 m_moduleNames.insert(name);
         m_moduleNames.insert(u"REGRESS");

@@ -103,6 +103,10 @@ private:
     class Kernel;
     class Data;
 
+    // The block of string ids that holds the module names (ANOVA, GLM, QC,
+    // ...): a line that is one of them makes its module the current one.
+    static constexpr UINT kFirstModuleName = 12890;
+    static constexpr UINT kLastModuleName = 13019;
     const std::set<CString>& ModuleNames();
 
     ResourceTable& m_resources;

@@ -35,6 +35,20 @@ std::string ChooseRequiredVariables(const std::string& id)
                                     "cell 8710 1 2 0\ncell 8710 1 3 1\ncell 8710 2 2 0\ncell 8710 2 3 1\n";
         return id == "2078" ? factors + "page 1\ncell 8761 1 2 max\ncell 8761 1 3 0\ncell 8761 1 5 1\n" : factors;
     }
+    if (id == "2023")
+        return "page 0\nselect 6501 Y Y2\nclick 6502\n";
+    if (id == "2018")
+        return "page 0\nselect 6541 Y\nclick 6542\n";
+    if (id == "2019")
+        return "page 0\nselect 6601 Y\nclick 6602\n";
+    if (id == "2020")
+        return "page 0\nselect 6641 A\nclick 6642\nselect 6641 B\nclick 6646\n";
+    if (id == "2057")
+        return "page 0\nselect 6681 Y\nclick 6682\nselect 6681 X\nclick 6690\n";
+    if (id == "2029")
+        return "page 0\nselect 6721 B\nclick 6722\nselect 6721 X\nclick 6728\n";
+    if (id == "2017")
+        return "select 6781 Y Y2 X\nclick 6782\n";
     if (id == "2030" || id == "2031")
         return "page 0\nselect 7601 Y\nclick 7602\ntype 7607 b0*X\ntype 7609 ABS(RESIDUAL)\ncell 7611 1 1 b0\n"
                "cell 7611 1 2 1\n";

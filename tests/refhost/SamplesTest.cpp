@@ -50,6 +50,9 @@ const char* const kChoiceLines = "LOGIT\n"
                                  "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
                                  "ESTIMATE / CONFI = 0.9 ITER = 100\n";
 
+const char* const kCoranLines =
+    "CORAN\nFREQ count\nMODEL variety$ = grade$\nESTIMATE / SUPPLEMENTARY = region$ NORMALIZE = PRINCIPAL\n";
+
 const char* const kSimulationLines = "LOGIT\nSIMULATE / DRAWS = 5000 RSEED = 17\nSCENARIO income = 30\n"
                                      "SCENARIO income = 60, age = 30\n";
 
@@ -148,6 +151,21 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "2035", "QC\nCUSUM weight*lot / TARGET=500 K=0.25 H=4 FIR\n",
          // The CUSUM page shows its own controls, not the limits.
          "expect checked 5478 1\nexpect text 5488 4\nexpect visible 5470 0\ncancel\n", 1, "", ""},
+        {"multivariate.kal", "orchards.csv",
+         "FACTOR\nSAVE 'scores.kvd' / SCORES\nMODEL height girth crown yield sugar acidity\n"
+         "ESTIMATE / IPA NUMBER = 2 ROTATE = OBLIMIN GAMMA=0.5 SORT\n"
+         "CLUSTER\nSAVE 'clusters.kvd' / NUMBER = 4\n"
+         "JOIN height girth crown yield / DISTANCE = SQEUCLIDEAN LINKAGE = WARD STANDARDIZE\n"
+         "CLUSTER\nSAVE 'groups.kvd' / DISTANCE\n"
+         "KMEANS height girth crown yield / NUMBER = 4 DISTANCE = EUCLIDEAN STANDARDIZE INIT = RANDOM RSEED = 1234\n" +
+             std::string(kCoranLines) +
+             "SETCOR\nMODEL yield sugar acidity = height girth crown / XPARTIAL = tree\n"
+             "ESTIMATE / RAO PILLAI SAMPLE = BOOT(500)\n"
+             "TREES\nMODEL grade$ = variety$ height girth crown\nESTIMATE / CLASS PRUNE\n"
+             "CLUSTER\nADDTREE height girth crown yield sugar acidity / DISTANCE = PEARSON FITTED\n",
+         "2020", kCoranLines,
+         // Reopened, both pages show the last choices.
+         "expect items 6645 variety$\nexpect items 6657 count\npage 1\nexpect combo 6664 3\ncancel\n", 1, "", ""},
         {"logit-follow-ups.kal", "commute.csv",
          "LOGIT\nMODEL car = CONSTANT+income+age\nESTIMATE \nLOGIT\nPREDICT / AT income = 40\nMARGINS / AVERAGE\n"
          "CLASSIFY / CUT = 0.4\nLOGIT\nQUANTILES region / GROUPS = 5\n" +

@@ -1,0 +1,3 @@
+#include "private/Multivariate/KDGCoranTabData.h"
+
+IMPLEMENT_SERIAL(CCoranTabData, CGUITabData, 1)

@@ -1,0 +1,3 @@
+#include "private/Multivariate/KDGFactorTabData.h"
+
+IMPLEMENT_SERIAL(CFactorTabData, CGUITabData, 1)

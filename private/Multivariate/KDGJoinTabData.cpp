@@ -1,0 +1,3 @@
+#include "private/Multivariate/KDGJoinTabData.h"
+
+IMPLEMENT_SERIAL(CJoinTabData, CGUITabData, 1)

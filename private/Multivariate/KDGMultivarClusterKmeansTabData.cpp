@@ -1,0 +1,3 @@
+#include "private/Multivariate/KDGMultivarClusterKmeansTabData.h"
+
+IMPLEMENT_SERIAL(CMultivarClusterKmeansTabData, CGUITabData, 1)

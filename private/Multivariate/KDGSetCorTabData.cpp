@@ -1,0 +1,3 @@
+#include "private/Multivariate/KDGSetCorTabData.h"
+
+IMPLEMENT_SERIAL(CSetCorTabData, CGUITabData, 1)

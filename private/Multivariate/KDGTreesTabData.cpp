@@ -1,0 +1,3 @@
+#include "private/Multivariate/KDGTreesTabData.h"
+
+IMPLEMENT_SERIAL(CTreesTabData, CGUITabData, 1)
