@@ -101,6 +101,15 @@ bool CDDXVDlg::ReadKVText(const CWnd& control, CGUIData<double>& value)
     return ReadNumber(control, value);
 }
 
+bool CDDXVDlg::ReadNumberText(const CString& text, double& value)
+{
+    double parsed = 0;
+    if (!Parse(text, parsed) || !IsFinite(parsed))
+        return false;
+    value = parsed;
+    return true;
+}
+
 void CDDXVDlg::DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<int>& value, UINT messageId, const NumberRule* rule)
 {
     ExchangeNumber(pDX, id, value, messageId, rule);

@@ -28,6 +28,9 @@ public:
     static bool ReadKVText(const CWnd& control, CGUIData<int>& value);
     static bool ReadKVText(const CWnd& control, CGUIData<unsigned int>& value);
     static bool ReadKVText(const CWnd& control, CGUIData<double>& value);
+    // Reads a number typed outside an edit (a grid cell) by the same
+    // grammar; false, and `value` as it was, when it is none.
+    static bool ReadNumberText(const CString& text, double& value);
     static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<unsigned int>& value, UINT messageId,
                            const NumberRule* rule = nullptr);
     static void DDX_KVText(CDataExchange* pDX, UINT id, CGUIData<double>& value, UINT messageId,

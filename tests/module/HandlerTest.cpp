@@ -3,9 +3,12 @@
 #include "Msg/QualityAnalysisMsg.h"
 #include "Msg/RegressionMsg.h"
 #include "Msg/Stat2SingleMenuItemsMsg.h"
+#include "platform/HeadlessDriver.h"
 #include "tests/support/FakeHost.h"
 
 #include <gtest/gtest.h>
+
+#include <vector>
 
 using namespace kaltest;
 
@@ -23,22 +26,46 @@ TEST(Handlers, RecordTheIdAndAnswerOnlyTheirRows)
     quality.OnKVCommand(2044);
     EXPECT_TRUE(host.messages.empty());
 
+    // Each of the six rows opens its dialog (cancelled at once) over the
+    // settings the host keeps for it; the ids between them open nothing.
+    CHeadlessDriver driver;
+    driver.SetScript([](CHeadlessSession& s) { s.Cancel(); });
+    CDialogDriver* previous = AfxSetDialogDriver(&driver);
     CStat2SingleMenuItemsMsg single(&host);
     for (UINT id = 2014; id <= 2079; ++id)
         single.OnKVCommand(id);
-    EXPECT_EQ(host.messages.size(), 6u); // 2014, 2059, 2063, 2065, 2078, 2079
+    AfxSetDialogDriver(previous);
+    EXPECT_TRUE(host.messages.empty());
+    std::vector<UINT> opened;
+    for (const auto& [id, settings] : host.store)
+        opened.push_back(id);
+    EXPECT_EQ(opened, (std::vector<UINT>{2014, 2059, 2063, 2065, 2078, 2079}));
 }
+
+namespace {
+
+// Every row of the module's handlers has its dialog now: a handler of one
+// row without it stands for a module that lacks an analysis.
+const MenuCommandRow kUnavailableRows[] = {KAL_MENU_ROW_UNAVAILABLE(2079, CRsmPlotDlg, CRsmPlotData, 2396)};
+
+class CUnavailableMsg : public CMenuGroupMsg {
+public:
+    explicit CUnavailableMsg(IGlobal* global) : CMenuGroupMsg(global, "Msg/UnavailableMsg", kUnavailableRows) {}
+    const char* GetHandlerName() const override { return "CUnavailableMsg"; }
+};
+
+} // namespace
 
 TEST(Handlers, RowsWithoutTheirAnalysisReportNotAvailable)
 {
     FakeHost host;
-    CStat2SingleMenuItemsMsg single(&host);
-    single.OnKVCommand(2079);
+    CUnavailableMsg handler(&host);
+    handler.OnKVCommand(2079);
     ASSERT_EQ(host.messages.size(), 1u);
     EXPECT_EQ(host.messages[0], 100190500u);
     EXPECT_TRUE(host.store.empty());
-    EXPECT_NE(single.FindRow(2079), nullptr);
-    EXPECT_EQ(single.FindRow(2002), nullptr);
+    EXPECT_NE(handler.FindRow(2079), nullptr);
+    EXPECT_EQ(handler.FindRow(2002), nullptr);
 }
 
 TEST(Handlers, AMissingGlobalIsReportedFromTheHandlersSource)

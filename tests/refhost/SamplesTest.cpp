@@ -264,6 +264,25 @@ TEST(Samples, EachScriptWritesItsLinesAndIsRememberedAcrossARestart)
          "expect items 7003 dose rain\npage 1\nexpect text 7082 0.75\nexpect text 7103 lts.kvd\n"
          "check 7101 0\nok\n",
          0, "", "ROBUST\nMODEL yield = CONSTANT+dose+rain\nESTIMATE / LTS COVERAGE = 0.75 SEED = 2024\n"},
+        {"missing.kal", "",
+         "MISSEM\nMODEL Y Y2 X X2\nGROUP A\nPATTERN / CUTOFF = 5\nSAVE 'completed.kvd' / DATA\n"
+         "ESTIMATE / EM ITER = 50 MCAR MATRIX = SSCP\n",
+         "", "", "", 1, "", ""},
+        {"survival.kal", "",
+         "SURVIVAL\nMODEL T1 = X+X2 / CENSOR = W(2) STRATA = A\nESTIMATE / LOGNORMAL CONFI = 0.9\n"
+         "SURVIVAL\nMODEL T1 / CENSOR = W(2) STRATA = B\nKM \nTEST / LOGRANK BRESLOW\n",
+         "2059", "SURVIVAL\nMODEL T1 = X+X2 / CENSOR = W(2) STRATA = A\nESTIMATE / LOGNORMAL CONFI = 0.9\n",
+         "expect text 8608 2\nexpect items 8615 X X2\npage 1\nexpect combo 8633 2\ncancel\n", 1, "", ""},
+        {"response-surface.kal", "",
+         "RSM\nMODEL Y Y2 = X+X2\nBLOCK A\nFACTOR X(10,20) X2(100,400) / CODED\n"
+         "ESTIMATE / QUADRATIC CANONICAL LACKFIT CONFI = 0.9\n"
+         "RSM\nMODEL Y Y2 = X+X2\nFACTOR X(10,20) X2(100,400)\nGOAL Y / MAXIMIZE LOW = 5 HIGH = 9\n"
+         "GOAL Y2 / TARGET = 2 LOW = 1 HIGH = 3 WEIGHT = 2\nOPTIMIZE / DESIRABILITY\n"
+         "RSM\nMODEL Y = X+X2+W\nFACTOR X(10,20) X2(100,400) W(1,2)\nPLOT X2*X / SURFACE HOLD W = 1.5\n",
+         "2079", "RSM\nMODEL Y = X+X2+W\nFACTOR X(10,20) X2(100,400) W(1,2)\nPLOT X2*X / SURFACE HOLD W = 1.5\n",
+         // The ranges and the axes come back by name; a held value is kept.
+         "page 1\nexpect combo 8793 1\nexpect combo 8794 0\ntype 8798 50\nok\n", 0, "",
+         "RSM\nMODEL Y = X+X2+W\nFACTOR X(10,20) X2(100,400) W(1,2)\nPLOT X2*X / SURFACE POINTS = 50 HOLD W = 1.5\n"},
     };
     for (const Sample& sample : samples) {
         SCOPED_TRACE(sample.script);

@@ -1,0 +1,3 @@
+#include "private/Missing/KDGMissingTabData.h"
+
+IMPLEMENT_SERIAL(CMissingTabData, CGUITabData, 1)

@@ -1,0 +1,3 @@
+#include "private/ResponseSurface/KDGRsmEstimateTabData.h"
+
+IMPLEMENT_SERIAL(CRsmEstimateTabData, CGUITabData, 1)

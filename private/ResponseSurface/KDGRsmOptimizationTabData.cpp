@@ -1,0 +1,3 @@
+#include "private/ResponseSurface/KDGRsmOptimizationTabData.h"
+
+IMPLEMENT_SERIAL(CRsmOptimizationTabData, CGUITabData, 1)

@@ -1,0 +1,3 @@
+#include "private/ResponseSurface/KDGRsmPlotData.h"
+
+IMPLEMENT_SERIAL(CRsmPlotData, CGUITabData, 1)

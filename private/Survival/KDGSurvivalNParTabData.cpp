@@ -1,0 +1,3 @@
+#include "private/Survival/KDGSurvivalNParTabData.h"
+
+IMPLEMENT_SERIAL(CSurvivalNParTabData, CGUITabData, 1)

@@ -1,0 +1,3 @@
+#include "private/Survival/KDGSurvivalTabData.h"
+
+IMPLEMENT_SERIAL(CSurvivalTabData, CGUITabData, 1)
