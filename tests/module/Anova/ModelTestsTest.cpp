@@ -175,6 +175,6 @@ TEST_F(StoredModels, PairwiseMatrixHasAContrastRowForEveryPairOfLevels)
     CHypPairwiseData matrix;
     matrix.SetstrDialog(2027);
     matrix.SetAll(u"dose (mg)", CGUIData<int>(2), u"B(A)");
-    EXPECT_EQ(LinesOf(matrix), (Lines16{u"GLM", u"HYPOTHESIS", u"EFFECT = 'dose (mg)'", u"CONTRAST [ 1 -1 ]",
+    EXPECT_EQ(LinesOf(matrix), (Lines16{u"MANOVA", u"HYPOTHESIS", u"EFFECT = 'dose (mg)'", u"CONTRAST [ 1 -1 ]",
                                         u"ERROR 'B(A)'", u"TEST"}));
 }
