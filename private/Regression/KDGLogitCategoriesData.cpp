@@ -15,7 +15,7 @@ IMPLEMENT_SERIAL(CLogitCategoriesData, CGUIBaseObj, 1)
 
 namespace {
 
-void Report(int line)
+void ReportCategoriesAssertion(int line)
 {
     CKalAssertDlg("Source/KDGLogitCategoriesData", line).DoPrint();
 }
@@ -98,12 +98,12 @@ CString CLogitCategoriesData::CodingClause() const
     switch (CRadioUtil::GetRadioItem(kCodingRadio, m_CodingRadio)) {
     case CLogitCategoriesDlgIds::IDC_EFFECT: return u" / EFFECT";
     case CLogitCategoriesDlgIds::IDC_DUMMY: break;
-    default: Report(__LINE__); return {};
+    default: ReportCategoriesAssertion(__LINE__); return {};
     }
     switch (CRadioUtil::GetRadioItem(kReferenceRadio, m_ReferenceRadio)) {
     case CLogitCategoriesDlgIds::IDC_REF_LAST: return u" / DUMMY REF = LAST";
     case CLogitCategoriesDlgIds::IDC_REF_FIRST: return u" / DUMMY REF = FIRST";
-    default: Report(__LINE__); return u" / DUMMY";
+    default: ReportCategoriesAssertion(__LINE__); return u" / DUMMY";
     }
 }
 

@@ -9,7 +9,7 @@ IMPLEMENT_SERIAL(CLogitOptsData, CGUIBaseObj, 1)
 
 namespace {
 
-void Report(int line)
+void ReportOptsAssertion(int line)
 {
     CKalAssertDlg("Source/KDGLogitOptsData", line).DoPrint();
 }
@@ -35,7 +35,7 @@ void CLogitOptsData::GetCommandInfoList(CLIST<CCmdInfo>& list) const
         else
             AppendStepwiseLines(list);
         break;
-    default: Report(__LINE__); break;
+    default: ReportOptsAssertion(__LINE__); break;
     }
 }
 
@@ -58,7 +58,7 @@ void CLogitOptsData::AppendStepwiseLines(CLIST<CCmdInfo>& list) const
     switch (CRadioUtil::GetRadioItem(kDirectionRadio, m_DirectionRadio)) {
     case CLogitOptsDlgIds::IDC_BACKWARD: start += u" BACKWARD"; break;
     case CLogitOptsDlgIds::IDC_FORWARD: start += u" FORWARD"; break;
-    default: Report(__LINE__); break;
+    default: ReportOptsAssertion(__LINE__); break;
     }
     start += FitClauses();
     start += AddChangedValueCmd(u" FORCE = ", m_Force);
