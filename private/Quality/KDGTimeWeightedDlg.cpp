@@ -43,6 +43,7 @@ void CTimeWeightedDlg::DoDataExchange(CDataExchange* pDX)
         return;
     DDX_ControlWarn(pDX, IDC_CHART_LIST, m_Work.m_ChartVariables.IsEmpty() ? kMsgNoMeasurement : 0);
     DDX_ControlWarn(pDX, IDC_WEIGHT_EDIT, ValidateWeight());
+    DDX_ControlWarn(pDX, IDC_PLIMITS_UPPER, ValidateProbabilityLimits());
     DDX_ControlWarn(pDX, IDC_SLIMITS_LOWER, ValidateSigmaLimits());
 }
 
@@ -58,6 +59,17 @@ UINT CTimeWeightedDlg::ValidateSigmaLimits() const
     if (Chart() == TimeWeightedChart::Cusum)
         return 0;
     return kal::quality::ValidateSigmaBounds(*this, kLimits, m_Work.m_SigmaLowerEdit, m_Work.m_SigmaUpperEdit);
+}
+
+UINT CTimeWeightedDlg::ValidateProbabilityLimits() const
+{
+    // Both bounds at 0 are the chart's defaults; only a lower bound above
+    // the upper one is refused.
+    const auto& lower = m_Work.m_PLimitsLowerEdit;
+    const auto& upper = m_Work.m_PLimitsUpperEdit;
+    const bool inUse = Chart() != TimeWeightedChart::Cusum && IsDlgButtonChecked(IDC_PLIMITS_RADIO);
+    const bool reversed = kal::quality::IsGiven(lower) && kal::quality::IsGiven(upper) && lower.m_Value > upper.m_Value;
+    return inUse && reversed ? kMsgLimitsOrder : 0;
 }
 
 void CTimeWeightedDlg::ShowBlock(std::initializer_list<UINT> controls, bool show)

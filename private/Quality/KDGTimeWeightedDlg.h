@@ -21,6 +21,7 @@ public:
     enum : UINT { ID_MENU_CHART = 33041, ID_MENU_GROUP = 33042 };
     static constexpr UINT kMsgNoMeasurement = 12940;
     static constexpr UINT kMsgLimitsEmpty = 12864;
+    static constexpr UINT kMsgLimitsOrder = 9133;
 
     static constexpr kal::quality::LimitsControls kLimits{IDC_PLIMITS_RADIO, IDC_SLIMITS_RADIO, IDC_PLIMITS_LOWER,
                                                           IDC_PLIMITS_UPPER, IDC_SLIMITS_LOWER, IDC_SLIMITS_UPPER};
@@ -44,4 +45,5 @@ private:
     void ShowBlock(std::initializer_list<UINT> controls, bool show);
     UINT ValidateWeight() const;
     UINT ValidateSigmaLimits() const;
+    UINT ValidateProbabilityLimits() const;
 };

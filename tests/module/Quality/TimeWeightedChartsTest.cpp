@@ -129,7 +129,15 @@ TEST_F(TimeWeightedCharts, ThePageShowsItsChartsControlsAndRefusesBadEntries)
         ExpectRefused(s, 2012, W::IDC_SPAN_EDIT);
         s.Type(W::IDC_SPAN_EDIT, u"2.5");
         ExpectRefused(s, 2011, W::IDC_SPAN_EDIT);
-        s.Cancel();
+        // Probability bounds the wrong way round; both at 0 are the defaults.
+        s.Type(W::IDC_SPAN_EDIT, u"4");
+        s.Type(W::IDC_PLIMITS_LOWER, u"0.999");
+        s.Type(W::IDC_PLIMITS_UPPER, u"0.001");
+        ExpectRefused(s, W::kMsgLimitsOrder, W::IDC_PLIMITS_UPPER);
+        s.Type(W::IDC_PLIMITS_LOWER, u"0");
+        s.Type(W::IDC_PLIMITS_UPPER, u"0");
+        s.Ok();
+        EXPECT_FALSE(s.IsOpen());
     });
 
     Run(TimeWeightedChart::Cusum, [this](CHeadlessSession& s) {
