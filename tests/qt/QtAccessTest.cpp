@@ -1,7 +1,8 @@
 // What readers, keyboard users and statisticians meet in the Qt view: the
-// accessible tree of every page (names, roles, states), the keys that move
-// between cells, pages and menus, messages that name the field, hints that
-// fit the state, windows that grow and filters on long variable lists.
+// keys that move between cells, pages and menus, messages that name the
+// field, hints that fit the state, windows that grow and filters on long
+// variable lists. (The accessible tree of every page is checked with every
+// dialog, in QtEveryDialogTest.)
 #include "Msg/AnalysisofVarianceMsg.h"
 #include "Msg/CorrelationsMsg.h"
 #include "Msg/RegressionMsg.h"
@@ -13,11 +14,9 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -30,14 +29,6 @@ using kalqttest::Control;
 using kalqttest::Key;
 
 namespace {
-
-void Walk(QAccessibleInterface* node, const std::function<void(QAccessibleInterface&)>& visit)
-{
-    visit(*node);
-    for (int i = 0; i < node->childCount(); ++i)
-        if (QAccessibleInterface* child = node->child(i))
-            Walk(child, visit);
-}
 
 QTabWidget* Tabs(QDialog& window)
 {
@@ -89,58 +80,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(QtAccess, EveryPageTellsReadersNamesRolesAndStates)
-{
-    const std::pair<CMenuGroupMsg*, UINT> dialogs[] = {{module->GetAnalysisofVarianceMsg(), 2008},
-                                                       {module->GetRegressionMsg(), 2051},
-                                                       {module->GetRegressionMsg(), 2004},
-                                                       {module->GetCorrelationsMsg(), 2002}};
-    for (const auto& [handler, id] : dialogs) {
-        Open(handler, id, {}, [id = id](QDialog& window) {
-            QTabWidget* tabs = Tabs(window);
-            ASSERT_NE(tabs, nullptr);
-            QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(tabs->tabBar());
-            for (int page = 0; page < tabs->count(); ++page) {
-                QAccessibleInterface* tab = bar->child(page);
-                ASSERT_NE(tab, nullptr);
-                EXPECT_EQ(tab->role(), QAccessible::PageTab);
-                const bool usable = tabs->isTabEnabled(page);
-                EXPECT_EQ(tab->state().disabled, !usable) << id << " page " << page;
-                EXPECT_EQ(tabs->tabToolTip(page).isEmpty(), usable) << id << " page " << page;
-                if (!usable)
-                    continue;
-                tabs->setCurrentIndex(page);
-                Walk(QAccessible::queryAccessibleInterface(tabs->currentWidget()), [&](QAccessibleInterface& node) {
-                    auto* widget = qobject_cast<QWidget*>(node.object());
-                    if (!widget || !widget->isVisibleTo(&window))
-                        return;
-                    const std::string where =
-                        std::to_string(id) + " page " + std::to_string(page) + " " + widget->objectName().toStdString();
-                    EXPECT_EQ(node.state().disabled, !widget->isEnabled()) << where;
-                    if (qobject_cast<QRadioButton*>(widget)) {
-                        EXPECT_EQ(node.role(), QAccessible::RadioButton) << where;
-                    }
-                    const QAccessible::Role role = node.role();
-                    if (role == QAccessible::List || role == QAccessible::Table || role == QAccessible::EditableText ||
-                        role == QAccessible::ComboBox) {
-                        EXPECT_FALSE(node.text(QAccessible::Name).isEmpty()) << where;
-                    }
-                    // A hint names no control: its text is no buddy's.
-                    if (auto* label = qobject_cast<QLabel*>(widget); label && !label->text().endsWith(u':')) {
-                        EXPECT_EQ(label->buddy(), nullptr) << where << " " << label->text().toStdString();
-                    }
-                });
-            }
-            // Each variable tells its kind.
-            tabs->setCurrentIndex(0);
-            auto* source = window.findChild<QListWidget*>();
-            ASSERT_NE(source, nullptr);
-            for (int row = 0; row < source->count(); ++row)
-                EXPECT_FALSE(source->item(row)->data(Qt::AccessibleDescriptionRole).toString().isEmpty());
-        });
-    }
-}
 
 TEST_F(QtAccess, GridCellsTakeArrowsTabLeavesAndPageKeysWorkFromAnywhere)
 {

@@ -1,7 +1,8 @@
 // Every dialog the module holds, in Qt widgets and worked from the keyboard
 // as a user does: on every page each mnemonic lands on the control it
-// names, and every control Tab reaches shows that it has the focus. A menu
-// row is covered the moment its dialog is part of the module.
+// names, every control Tab reaches shows that it has the focus, and a
+// screen reader hears each control by its label, with its role and state.
+// A menu row is covered the moment its dialog is part of the module.
 #include "Msg/AnalysisofVarianceMsg.h"
 #include "Msg/CorrelationsMsg.h"
 #include "Msg/GeneralLinearModelMsg.h"
@@ -18,10 +19,14 @@
 #include "tests/support/Mnemonics.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTabWidget>
@@ -62,6 +67,14 @@ QString ControlOf(QWidget* widget)
         if (widget->objectName().startsWith(QStringLiteral("ctl")))
             return widget->objectName();
     return QStringLiteral("nothing");
+}
+
+void Walk(QAccessibleInterface* node, const std::function<void(QAccessibleInterface&)>& visit)
+{
+    visit(*node);
+    for (int i = 0; i < node->childCount(); ++i)
+        if (QAccessibleInterface* child = node->child(i))
+            Walk(child, visit);
 }
 
 // Where the keyboard tests start and end a round: the tab bar, or the
@@ -276,4 +289,48 @@ TEST_F(QtEveryDialog, TabReachesEveryControlAndEachShowsTheFocus)
             EXPECT_TRUE(reached.count(name)) << "the keyboard never reaches " << name.toStdString();
     });
     EXPECT_GT(shown, 60);
+}
+
+TEST_F(QtEveryDialog, EveryPageTellsReadersNamesRolesAndStates)
+{
+    int named = 0;
+    ForEveryPage([&](QDialog& window, QWidget& page, const DialogTemplate&) {
+        // Tabs: a greyed one is disabled for readers too, and its tip says why.
+        if (auto* tabs = window.findChild<QTabWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(tabs->tabBar());
+            for (int i = 0; i < tabs->count(); ++i) {
+                QAccessibleInterface* tab = bar->child(i);
+                ASSERT_NE(tab, nullptr);
+                EXPECT_EQ(tab->role(), QAccessible::PageTab);
+                EXPECT_EQ(tab->state().disabled, !tabs->isTabEnabled(i)) << "tab " << i;
+                EXPECT_EQ(tabs->tabToolTip(i).isEmpty(), tabs->isTabEnabled(i)) << "tab " << i;
+            }
+        }
+        Walk(QAccessible::queryAccessibleInterface(&page), [&](QAccessibleInterface& node) {
+            auto* widget = qobject_cast<QWidget*>(node.object());
+            if (!widget || !widget->isVisibleTo(&window))
+                return;
+            const std::string where = widget->objectName().toStdString();
+            EXPECT_EQ(node.state().disabled, !widget->isEnabled()) << where;
+            if (qobject_cast<QRadioButton*>(widget)) {
+                EXPECT_EQ(node.role(), QAccessible::RadioButton) << where;
+            }
+            const QAccessible::Role role = node.role();
+            if (role == QAccessible::List || role == QAccessible::Table || role == QAccessible::EditableText ||
+                role == QAccessible::ComboBox) {
+                EXPECT_FALSE(node.text(QAccessible::Name).isEmpty()) << where << " has no name";
+                ++named;
+            }
+            // A hint names no control: its text is no buddy's.
+            if (auto* label = qobject_cast<QLabel*>(widget); label && !label->text().endsWith(u':')) {
+                EXPECT_EQ(label->buddy(), nullptr) << where << " " << label->text().toStdString();
+            }
+        });
+        // Each variable of a list tells its kind.
+        for (auto* list : page.findChildren<QListWidget*>())
+            for (int row = 0; row < list->count(); ++row)
+                EXPECT_FALSE(list->item(row)->data(Qt::AccessibleDescriptionRole).toString().isEmpty())
+                    << list->objectName().toStdString();
+    });
+    EXPECT_GT(named, 200);
 }
