@@ -45,9 +45,8 @@ const char* const kGlmLines = "GLM\n"
                               "ESTIMATE / SS = TYPE3\n";
 const char* const kPairwiseLines = "GLM\nHYPOTHESIS\nPOST A / BONF CONFI = 0.9\nERROR 'A*B'\nTEST\n";
 const char* const kHypothesisLines = "GLM\nHYPOTHESIS\nEFFECT = A\nCONTRAST [ 1 -1 0; 0 1 -1 ]\nERROR 'A*B'\nTEST\n";
-const char* const kPairwiseMatrixLines =
-    "GLM\nHYPOTHESIS\nEFFECT = A\nCONTRAST [ 1 -1 0; 1 0 -1; 0 1 -1 ]\n"
-    "ERROR 'A*B'\nTEST\n";
+const char* const kPairwiseMatrixLines = "GLM\nHYPOTHESIS\nEFFECT = A\nCONTRAST [ 1 -1 0; 1 0 -1; 0 1 -1 ]\n"
+                                         "ERROR 'A*B'\nTEST\n";
 const char* const kChoiceLines = "LOGIT\n"
                                  "SET avail1 avail2 avail3 / INDICATORS\n"
                                  "MODEL mode = cost1+cost2+cost3; CONSTANT+income\n"
