@@ -18,6 +18,17 @@ inline ProcessResult Kalhost(const std::vector<std::string>& args, const std::st
     return RunProcess(KALHOST_PATH, args, input);
 }
 
+// Under the sanitizers every kalhost run costs a few hundred milliseconds.
+// A sweep that runs code the other sweeps already ran, only under other
+// inputs (preferences, the help of every row), is left to the plain build.
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool kUnderSanitizers = true;
+#elif defined(__has_feature)
+inline constexpr bool kUnderSanitizers = __has_feature(address_sanitizer);
+#else
+inline constexpr bool kUnderSanitizers = false;
+#endif
+
 // The ids `kalhost list` shows as available.
 inline std::vector<std::string> AvailableRows()
 {
