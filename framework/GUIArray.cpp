@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -63,7 +64,7 @@ void CGUIArray<CGUIDataVariable>::Serialize(CArchive& ar)
     if (ar.IsStoring()) {
         // The archive's blocks of 64 KiB stay well below the framework's
         // limit of 89478485 blocks a transfer.
-        const auto& items = Items();
+        const auto& items = std::as_const(*this).Items();
         ar.WriteCount(static_cast<ULONGLONG>(items.size()));
         ar.WriteBlocks(items.size(), kBlock, [&](BYTE* block, std::size_t first, std::size_t n) {
             for (std::size_t i = 0; i < n; ++i)

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <unordered_set>
 
 IMPLEMENT_DYNAMIC(CGUIBaseObj, CObject)
@@ -77,15 +79,87 @@ inline NameScan ScanName(std::u16string_view name)
     return ScanName(name, [](std::size_t, char16_t) {});
 }
 
+// The same scan eight units at a time, for the lines of a whole sheet's
+// names: a name of up to eight units is one load, one store and a few
+// comparisons of all its units at once. The name is copied to `out` in
+// whole pieces of eight, so `out` has room for its length rounded up to
+// eight; `readable` is how many units from the name's start its buffer
+// holds. A name whose last piece would be read past that buffer is
+// scanned unit by unit instead.
+using Units = std::uint16_t __attribute__((vector_size(16)));
+using UnitMask = std::int16_t __attribute__((vector_size(16)));
+constexpr std::size_t kPiece = sizeof(Units) / sizeof(char16_t);
+
+constexpr std::size_t RoundedToPieces(std::size_t units)
+{
+    return (units + kPiece - 1) / kPiece * kPiece;
+}
+
+// Every unit `unit`. (Comparisons take two pieces: some compilers refuse a
+// piece against a single unit.)
+constexpr Units Splat(std::uint16_t unit)
+{
+    return Units{} + unit;
+}
+
+// The units from `first` to `first + span - 1`, by one unsigned comparison.
+inline UnitMask InRange(Units u, std::uint16_t first, std::uint16_t span)
+{
+    return (u - Splat(first)) < Splat(span);
+}
+
+inline bool AnyLane(UnitMask mask)
+{
+    std::uint64_t halves[2];
+    std::memcpy(halves, &mask, sizeof halves);
+    return (halves[0] | halves[1]) != 0;
+}
+
+inline NameScan CopyAndScanByPieces(std::u16string_view name, std::size_t readable, char16_t* out)
+{
+    const std::size_t size = name.size();
+    // Places in a name are counted in units of 16 bits: a longer name (no
+    // sheet has one) is scanned unit by unit too.
+    constexpr std::size_t kLongest = 0x7FFF;
+    if (size > kLongest || RoundedToPieces(size) > readable)
+        return ScanName(name, [out](std::size_t i, char16_t ch) { out[i] = ch; });
+    const std::size_t body = size - (name.back() == u'$' ? 1 : 0);
+    constexpr Units kLane = {0, 1, 2, 3, 4, 5, 6, 7};
+    UnitMask notWord{}, control{}, quote{};
+    for (std::size_t k = 0; k < size; k += kPiece) {
+        Units u;
+        std::memcpy(&u, name.data() + k, sizeof u);
+        std::memcpy(out + k, &u, sizeof u);
+        const Units at = kLane + Splat(static_cast<std::uint16_t>(k));
+        const UnitMask inName = at < Splat(static_cast<std::uint16_t>(size));
+        const UnitMask inBody = at < Splat(static_cast<std::uint16_t>(body));
+        const UnitMask word = InRange(u, u'a', 26) | InRange(u, u'A', 26) | InRange(u, u'0', 10) | (u == Splat(u'_')) |
+                              (u == Splat(u'.'));
+        notWord |= inBody & ~word;
+        control |= inName & (InRange(u, 0, 0x20) | (u == Splat(0x7F)));
+        quote |= inName & (u == Splat(u'\''));
+    }
+    NameScan scan;
+    scan.control = AnyLane(control);
+    scan.quote = AnyLane(quote);
+    scan.plain = body > 0 && !AnyLane(notWord) && !IsDigit(name[0]) && name[0] != u'.';
+    return scan;
+}
+
 // Writes `name` in single quotes at `out`, its own quotes doubled; the end
 // of what it wrote.
 char16_t* WriteQuoted(char16_t* out, std::u16string_view name, bool quote)
 {
     *out++ = u'\'';
-    for (const char16_t ch : name) {
-        *out++ = ch;
-        if (quote && ch == u'\'')
+    if (!quote) {
+        std::memcpy(out, name.data(), name.size() * sizeof(char16_t));
+        out += name.size();
+    } else {
+        for (const char16_t ch : name) {
             *out++ = ch;
+            if (ch == u'\'')
+                *out++ = ch;
+        }
     }
     *out++ = u'\'';
     return out;
@@ -146,14 +220,16 @@ std::string Shown(const CString& text)
 // lists it once.
 void ListEachNameOnce(CGUIArray<CGUIDataVariable>& list)
 {
-    const auto nameOf = [&list](int i) -> std::u16string_view { return list[i].GetVariableName().Str(); };
+    const CGUIArray<CGUIDataVariable>& entries = list;
+    const auto nameOf = [&entries](int i) -> std::u16string_view { return entries[i].GetVariableName().Str(); };
+    const auto hashOf = [&entries](int i) { return entries[i].GetNameHash(); };
     CTextIndex names;
     const int count = list.GetSize();
-    if (names.Build(count, nameOf) == count)
+    if (names.Build(count, nameOf, hashOf) == count)
         return;
     std::vector<bool> repeated(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
-        repeated[static_cast<std::size_t>(i)] = names.Find(nameOf(i), nameOf) != i;
+        repeated[static_cast<std::size_t>(i)] = names.Find(nameOf(i), hashOf(i), nameOf) != i;
     list.RemoveMarked(repeated);
 }
 
@@ -207,14 +283,15 @@ void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUI
     }
     if (CompareTwoListCtrlArrays(*target, *source))
         return; // the same names in the same order: the target keeps its entries
+    const auto hashOf = [source](int i) { return (*source)[i].GetNameHash(); };
     CTextIndex inSource;
-    inSource.Build(source->GetSize(), nameOf(*source));
+    inSource.Build(source->GetSize(), nameOf(*source), hashOf);
     // Which source entries the target keeps, so that each is added once.
     std::vector<bool> kept(static_cast<std::size_t>(source->GetSize()), false);
     CGUIArray<CGUIDataVariable> updated;
     updated.Reserve(static_cast<std::size_t>(bAdd ? source->GetSize() : target->GetSize()));
     for (const auto& v : *target) {
-        const int at = inSource.Find(v.GetVariableName().Str(), nameOf(*source));
+        const int at = inSource.Find(v.GetVariableName().Str(), v.GetNameHash(), nameOf(*source));
         if (at >= 0 && !kept[static_cast<std::size_t>(at)]) {
             kept[static_cast<std::size_t>(at)] = true;
             updated.Add(v);
@@ -223,7 +300,7 @@ void CGUIBaseObj::UpdateCtrlList(CGUIArray<CGUIDataVariable>* target, const CGUI
     if (bAdd)
         for (int i = 0; i < source->GetSize(); ++i)
             if (!kept[static_cast<std::size_t>(i)] &&
-                inSource.Find((*source)[i].GetVariableName().Str(), nameOf(*source)) == i)
+                inSource.Find((*source)[i].GetVariableName().Str(), hashOf(i), nameOf(*source)) == i)
                 updated.Add((*source)[i]); // once, however often the source names it
     *target = std::move(updated);
 }
@@ -437,27 +514,37 @@ void CGUIBaseObj::AddVariables(CString& line, const CGUIArray<CGUIDataVariable>&
     const std::u16string_view joiner = separator;
     const std::size_t count = static_cast<std::size_t>(list.GetSize());
     constexpr std::size_t kSamples = 8;
+    constexpr std::size_t kPrefetchDistance = 16;
     std::size_t longest = 0;
     for (std::size_t k = 0; k < kSamples; ++k) {
         const auto& sample = list.begin()[static_cast<std::ptrdiff_t>(k * (count - 1) / (kSamples - 1))];
         longest = std::max(longest, sample.GetVariableName().Str().size());
     }
+    // The names are scanned for control characters on the way; the text
+    // around them is looked at here, so that the finished line need not be.
+    const bool printable = !ContainsControlCharacter(line) && !ContainsControlCharacter(separator);
     std::u16string text = line.TakeText();
     text.reserve(text.size() + (longest + 2 + joiner.size()) * count);
     LineWriter out(std::move(text));
     bool first = true;
-    for (const auto& v : list) {
-        const std::u16string_view name = v.GetVariableName();
+    const CGUIDataVariable* const entries = &*list.begin();
+    for (std::size_t i = 0; i < count; ++i) {
+        const CGUIDataVariable& v = entries[i];
+        if (i + kPrefetchDistance < count)
+            entries[i + kPrefetchDistance].PrefetchName();
+        const std::u16string& buffer = v.GetVariableName().Str();
+        const std::u16string_view name = buffer;
         if (name.empty())
             continue; // an entry whose name was not stored names no variable
-        // Room for the name at its longest: quoted, every unit a quote.
-        char16_t* at = out.Room(joiner.size() + 2 * name.size() + 2);
+        // Room for the name at its longest: quoted, every unit a quote, or
+        // copied in whole pieces.
+        char16_t* at = out.Room(joiner.size() + std::max(2 * name.size() + 2, RoundedToPieces(name.size())));
         if (!first) {
             for (const char16_t ch : joiner)
                 *at++ = ch;
         }
         // Copied as it is while scanning: most names are plain.
-        const NameScan scan = ScanName(name, [at](std::size_t i, char16_t ch) { at[i] = ch; });
+        const NameScan scan = CopyAndScanByPieces(name, buffer.capacity() + 1, at);
         if (scan.control) {
             // Such a name could start a second command line: leave it out.
             CKalAssertDlg("framework/GUIBaseObj", __LINE__,
@@ -469,7 +556,7 @@ void CGUIBaseObj::AddVariables(CString& line, const CGUIArray<CGUIDataVariable>&
         out.Commit(scan.plain ? at + name.size() : WriteQuoted(at, name, scan.quote));
         first = false;
     }
-    line = CString(std::move(out).Finish());
+    line = printable ? CString::KnownPrintable(std::move(out).Finish()) : CString(std::move(out).Finish());
 }
 
 CString CGUIBaseObj::GetMixedDataVariable(const CGUIArray<CGUIDataVariable>& list, const CString& joiner) const

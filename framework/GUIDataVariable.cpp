@@ -53,7 +53,7 @@ void CGUIDataVariable::Serialize(CArchive& ar)
             int type = 0;
             ar >> name >> type >> m_nColumn >> label >> m_nSelected;
             m_nType = static_cast<NmsEnum::VARIABLETYPE>(type);
-            m_texts.Set(name, label);
+            SetTexts(name, label);
         }
         return;
     }

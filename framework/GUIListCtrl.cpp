@@ -7,8 +7,10 @@ void CGUIListCtrl::SetVariables(const CGUIArray<CGUIDataVariable>& variables, bo
     const int previous = m_nListState;
     m_nListState = stateFilling;
     m_variables = variables;
-    SetItems(static_cast<std::size_t>(variables.GetSize()),
-             [&variables](std::size_t i) { return variables[static_cast<int>(i)].GetVariableName(); });
+    SetItems(
+        static_cast<std::size_t>(variables.GetSize()),
+        [&variables](std::size_t i) { return variables[static_cast<int>(i)].GetVariableName(); },
+        [&variables](std::size_t i) { return variables[static_cast<int>(i)].GetNameHash(); });
     if (bKeepSelection) {
         std::vector<int> selected;
         for (int i = 0; i < variables.GetSize(); ++i)
@@ -22,9 +24,14 @@ void CGUIListCtrl::SetVariables(const CGUIArray<CGUIDataVariable>& variables, bo
 
 CGUIArray<CGUIDataVariable> CGUIListCtrl::GetVariables() const
 {
+    // Shared with the list the control was given, unless a selection flag
+    // changed.
     CGUIArray<CGUIDataVariable> result = m_variables;
-    for (int i = 0; i < result.GetSize(); ++i)
-        result[i].SetSelected(IsItemSelected(i) ? 1 : 0);
+    for (int i = 0; i < result.GetSize(); ++i) {
+        const int selected = IsItemSelected(i) ? 1 : 0;
+        if (result.GetAt(i).IsSelected() != selected)
+            result[i].SetSelected(selected);
+    }
     return result;
 }
 

@@ -1,6 +1,7 @@
 #include "platform/CString.h"
 
 #include <algorithm>
+#include <cassert>
 #include <charconv>
 #include <cstdio>
 
@@ -59,9 +60,9 @@ void CString::Free(Rep* rep) noexcept
 std::u16string& CString::Unshare()
 {
     if (!m_rep) {
-        m_rep = new Rep{1, {}};
+        m_rep = new Rep{1, false, {}};
     } else if (m_rep->refs > 1) {
-        Rep* own = new Rep{1, m_rep->text};
+        Rep* own = new Rep{1, false, m_rep->text};
         --m_rep->refs;
         m_rep = own;
     }
@@ -312,7 +313,9 @@ CString CString::FromNumber(double value, char16_t decimalSeparator)
     return text;
 }
 
-bool ContainsControlCharacter(const CString& text)
+namespace {
+
+bool ContainsControlUnit(std::u16string_view text)
 {
     const auto control = [](char16_t ch) { return ch < 0x20 || ch == 0x7F; };
     // Whole command lines of a million names come through here: blocks
@@ -327,4 +330,24 @@ bool ContainsControlCharacter(const CString& text)
             return true;
     }
     return std::any_of(rest.begin(), rest.end(), control);
+}
+
+} // namespace
+
+CString CString::KnownPrintable(std::u16string text)
+{
+    CString known(std::move(text));
+    if (known.m_rep)
+        known.m_rep->printable = true;
+    assert(!ContainsControlCharacter(CString(known.Str())));
+    return known;
+}
+
+bool ContainsControlCharacter(const CString& text)
+{
+    if (!text.m_rep || text.m_rep->printable)
+        return false;
+    const bool found = ContainsControlUnit(text.Str());
+    text.m_rep->printable = !found;
+    return found;
 }

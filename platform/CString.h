@@ -10,6 +10,7 @@
 
 #include <compare>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -18,8 +19,8 @@ class CString {
 public:
     CString() = default;
     CString(const char16_t* text) : CString(std::u16string_view(text ? text : u"")) {}
-    CString(std::u16string text) : m_rep(text.empty() ? nullptr : new Rep{1, std::move(text)}) {}
-    CString(std::u16string_view text) : m_rep(text.empty() ? nullptr : new Rep{1, std::u16string(text)}) {}
+    CString(std::u16string text) : m_rep(text.empty() ? nullptr : new Rep{1, false, std::move(text)}) {}
+    CString(std::u16string_view text) : m_rep(text.empty() ? nullptr : new Rep{1, false, std::u16string(text)}) {}
     CString(char16_t ch, int count = 1) : CString(std::u16string(count > 0 ? static_cast<std::size_t>(count) : 0, ch))
     {
     }
@@ -50,6 +51,12 @@ public:
     }
     ~CString() { Release(); }
     void swap(CString& other) noexcept { std::swap(m_rep, other.m_rep); }
+
+    // `text` from a writer that has looked at every unit of it and found no
+    // control character (see ContainsControlCharacter below), so that the
+    // command list it goes to does not read a line of a million names
+    // again. Debug builds check the claim.
+    static CString KnownPrintable(std::u16string text);
 
     static CString FromUtf8(std::string_view utf8);
     // 8-bit text of the framework's single-byte code page (Latin-1 here).
@@ -148,7 +155,10 @@ public:
 
 private:
     struct Rep {
-        long refs;
+        std::int32_t refs;
+        // The text is known to hold no control character; cleared whenever
+        // it changes.
+        mutable bool printable;
         std::u16string text;
     };
     // A CString is this one pointer, null or aligned: its lowest bit is free
@@ -159,7 +169,14 @@ private:
     // The text to change: this string's own buffer, copied first when shared.
     // Inline for the common case of a buffer of its own, as appends take it
     // once per piece.
-    std::u16string& Mutable() { return m_rep && m_rep->refs == 1 ? m_rep->text : Unshare(); }
+    std::u16string& Mutable()
+    {
+        if (m_rep && m_rep->refs == 1) {
+            m_rep->printable = false;
+            return m_rep->text;
+        }
+        return Unshare();
+    }
     std::u16string& Unshare();
     void Release() noexcept
     {
@@ -171,6 +188,8 @@ private:
     static void Free(Rep* rep) noexcept;
 
     Rep* m_rep = nullptr; // null: the empty string
+
+    friend bool ContainsControlCharacter(const CString& text);
 };
 
 template <>
@@ -179,5 +198,6 @@ struct std::hash<CString> {
 };
 
 // True for code units below 0x20 and DEL, i.e. anything that could break a
-// command line apart if written into it.
+// command line apart if written into it. A text found free of them is not
+// read again while it stays unchanged.
 bool ContainsControlCharacter(const CString& text);

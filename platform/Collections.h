@@ -1,6 +1,7 @@
-// CArray: the framework's growable array, over std::vector. Indexes are int
-// as in the framework; access out of range throws CInvalidArgException
-// rather than corrupting memory.
+// CArray: the framework's growable array, over a std::vector shared by its
+// copies until one of them changes. Indexes are int as in the framework;
+// access out of range throws CInvalidArgException rather than corrupting
+// memory.
 //
 // Room the array makes for elements that are about to be overwritten (a
 // list of numbers read from an archive) is not filled with zeros first;
@@ -69,77 +70,94 @@ template <class T>
 class CArray : public CObject {
 public:
     using value_type = T;
+    using Storage = std::vector<T, kal::DefaultInitAllocator<T>>;
 
+    // Copies share their elements until one of them changes (the change
+    // copies them first): a list of a million variables passes between a
+    // settings object, its dialog's list control and back at the cost of a
+    // count.
     CArray() = default;
     CArray(const CArray&) = default;
     CArray(CArray&&) noexcept = default;
     CArray& operator=(const CArray&) = default;
     CArray& operator=(CArray&&) noexcept = default;
-    CArray(std::initializer_list<T> items) : m_data(items) {}
+    CArray(std::initializer_list<T> items) : m_data(std::make_shared<Storage>(items)) {}
 
-    int GetSize() const { return static_cast<int>(m_data.size()); }
+    int GetSize() const { return static_cast<int>(Data().size()); }
     int GetCount() const { return GetSize(); }
     int GetUpperBound() const { return GetSize() - 1; }
-    bool IsEmpty() const { return m_data.empty(); }
+    bool IsEmpty() const { return Data().empty(); }
 
-    const T& GetAt(int index) const { return m_data[Checked(index)]; }
-    T& ElementAt(int index) { return m_data[Checked(index)]; }
+    const T& GetAt(int index) const { return Data()[Checked(index)]; }
+    T& ElementAt(int index)
+    {
+        const std::size_t at = Checked(index);
+        return Own()[at];
+    }
     const T& operator[](int index) const { return GetAt(index); }
     T& operator[](int index) { return ElementAt(index); }
-    void SetAt(int index, const T& value) { m_data[Checked(index)] = value; }
+    void SetAt(int index, const T& value) { ElementAt(index) = value; }
 
     int Add(const T& value)
     {
-        m_data.push_back(value);
+        Own().push_back(value);
         return GetUpperBound();
     }
     int Add(T&& value)
     {
-        m_data.push_back(std::move(value));
+        Own().push_back(std::move(value));
         return GetUpperBound();
     }
     void InsertAt(int index, const T& value)
     {
         if (index < 0 || index > GetSize())
             throw CInvalidArgException();
-        m_data.insert(m_data.begin() + index, value);
+        Storage& items = Own();
+        items.insert(items.begin() + index, value);
     }
     void RemoveAt(int index, int count = 1)
     {
         if (index < 0 || count < 0 || index + count > GetSize())
             throw CInvalidArgException();
-        m_data.erase(m_data.begin() + index, m_data.begin() + index + count);
+        Storage& items = Own();
+        items.erase(items.begin() + index, items.begin() + index + count);
     }
     // Removes the elements whose mark is set (marks beyond the end count as
     // unset), closing up in place in one pass.
-    void RemoveMarked(const std::vector<bool>& marked) { kal::EraseMarked(m_data, marked); }
-    void RemoveAll() { m_data.clear(); }
+    void RemoveMarked(const std::vector<bool>& marked) { kal::EraseMarked(Own(), marked); }
+    void RemoveAll() { m_data.reset(); }
     void SetSize(int size)
     {
         if (size < 0)
             throw CInvalidArgException();
-        m_data.resize(static_cast<std::size_t>(size), T{});
+        Own().resize(static_cast<std::size_t>(size), T{});
     }
-    void Copy(const CArray& other)
+    void Copy(const CArray& other) { m_data = other.m_data; }
+    void Append(const CArray& other)
     {
-        if (&other != this)
-            m_data = other.m_data;
+        const std::shared_ptr<Storage> added = other.m_data; // stays whole if `other` is this array
+        if (!added)
+            return;
+        Storage& items = Own();
+        items.insert(items.end(), added->begin(), added->end());
     }
-    void Append(const CArray& other) { m_data.insert(m_data.end(), other.m_data.begin(), other.m_data.end()); }
-    void Reserve(std::size_t capacity) { m_data.reserve(capacity); }
+    void Reserve(std::size_t capacity) { Own().reserve(capacity); }
 
-    auto begin() { return m_data.begin(); }
-    auto end() { return m_data.end(); }
-    auto begin() const { return m_data.begin(); }
-    auto end() const { return m_data.end(); }
+    // Iterating a non-const array may change it: it takes its own elements
+    // first. Read through a const array to share them on.
+    auto begin() { return Own().begin(); }
+    auto end() { return Own().end(); }
+    auto begin() const { return Data().begin(); }
+    auto end() const { return Data().end(); }
 
-    friend bool operator==(const CArray& a, const CArray& b) { return a.m_data == b.m_data; }
+    friend bool operator==(const CArray& a, const CArray& b) { return a.m_data == b.m_data || a.Data() == b.Data(); }
 
-    using Storage = std::vector<T, kal::DefaultInitAllocator<T>>;
+    // Whether this array and `other` share their elements (no copy was made).
+    bool SharesElementsWith(const CArray& other) const { return m_data && m_data == other.m_data; }
 
 protected:
-    Storage& Items() { return m_data; }
-    const Storage& Items() const { return m_data; }
+    Storage& Items() { return Own(); }
+    const Storage& Items() const { return Data(); }
 
 private:
     std::size_t Checked(int index) const
@@ -148,8 +166,23 @@ private:
             throw CInvalidArgException();
         return static_cast<std::size_t>(index);
     }
+    const Storage& Data() const { return m_data ? *m_data : Empty(); }
+    static const Storage& Empty()
+    {
+        static const Storage empty;
+        return empty;
+    }
+    // The elements to change: this array's own, copied first when shared.
+    Storage& Own()
+    {
+        if (!m_data)
+            m_data = std::make_shared<Storage>();
+        else if (m_data.use_count() > 1)
+            m_data = std::make_shared<Storage>(*m_data);
+        return *m_data;
+    }
 
-    Storage m_data;
+    std::shared_ptr<Storage> m_data; // null: no elements
 };
 
 using CStringArray = CArray<CString>;

@@ -22,7 +22,7 @@
 class CTextIndex {
 public:
     // A hash of `text`, inline: names are short and hashed by the million.
-    static std::uint32_t Hash(std::u16string_view text)
+    static constexpr std::uint32_t Hash(std::u16string_view text)
     {
         std::uint64_t h = 0x9E3779B97F4A7C15ull ^ text.size();
         const char16_t* p = text.data();

@@ -197,7 +197,17 @@ public:
     // Replaces every item at once, selection cleared; one change for views.
     void SetItems(std::vector<CString> texts);
     // The same with the items' texts handed over one by one: text(i) for i
-    // below count, without a list of them on the way.
+    // below count, without a list of them on the way; hash(i), when given,
+    // is CTextIndex::Hash of text(i), known to the caller.
+    template <class TextOf, class HashOf>
+    void SetItems(std::size_t count, const TextOf& text, const HashOf& hash)
+    {
+        m_items.clear();
+        m_items.reserve(count);
+        for (std::size_t i = 0; i < count; ++i)
+            m_items.emplace_back(text(i), hash(i));
+        ItemsReplaced();
+    }
     template <class TextOf>
     void SetItems(std::size_t count, const TextOf& text)
     {
@@ -225,6 +235,7 @@ private:
         bool hidden = false;
 
         explicit Item(CString t) : text(std::move(t)), hash(CTextIndex::Hash(text.Str())) {}
+        Item(CString t, std::uint32_t h) : text(std::move(t)), hash(h) {}
     };
     std::u16string_view TextOf(int i) const { return m_items[static_cast<std::size_t>(i)].text.Str(); }
     std::uint32_t HashOf(int i) const { return m_items[static_cast<std::size_t>(i)].hash; }

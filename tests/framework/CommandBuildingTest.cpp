@@ -8,6 +8,7 @@
 
 #include <iostream>
 #include <sstream>
+#include <utility>
 
 using namespace kaltest;
 
@@ -98,6 +99,39 @@ TEST_F(CommandBuilding, NamesAreQuotedByEveryUnitTheyHold)
     EXPECT_EQ(CGUIBaseObj::QuoteName(u".5"), CString(u"'.5'"));
     EXPECT_EQ(CGUIBaseObj::QuoteName(u"gr\u00F6\u00DFe"), CString(u"'gr\u00F6\u00DFe'"));
     EXPECT_EQ(CGUIBaseObj::QuoteName(u"''"), CString(u"''''''"));
+}
+
+TEST_F(CommandBuilding, ALineOfNamesQuotesEachAsQuoteNameDoes)
+{
+    // A line reads its names several units at a time: every length around
+    // those pieces, with a unit that matters at every place of the name.
+    CGUIArray<CGUIDataVariable> list;
+    std::u16string expected = u"VARS ";
+    for (std::size_t length = 1; length <= 18; ++length) {
+        for (std::size_t at = 0; at < length; ++at) {
+            for (const char16_t unit : {u'a', u'7', u'_', u'.', u'$', u' ', u'\'', u'\u00E9'}) {
+                std::u16string name(length, u'x');
+                name[at] = unit;
+                list.Add(CGUIDataVariable(CString(name), NmsEnum::VT_NUMERIC));
+                expected += (expected.size() > 5 ? u"," : u"") + CGUIBaseObj::QuoteName(CString(name)).Str();
+            }
+        }
+    }
+    CString line(u"VARS ");
+    settings.AddVariables(line, list, u",");
+    EXPECT_EQ(line.Str(), expected);
+
+    // The text around the names is looked at too: a control character
+    // there keeps the line out of the list.
+    for (const auto& [prefix, separator] : {std::pair(u"VARS\n", u","), std::pair(u"VARS ", u"\t")}) {
+        CString bad(prefix);
+        settings.AddVariables(bad, list, separator);
+        AssertionCapture capture;
+        CLIST<CCmdInfo> lines;
+        AppendCommandLine(lines, bad);
+        EXPECT_TRUE(lines.IsEmpty());
+        EXPECT_EQ(capture.reports.size(), 1u);
+    }
 }
 
 TEST_F(CommandBuilding, LongListsStayJoinedAroundLeftOutNamesAndOutgrowTheirRoom)

@@ -57,6 +57,20 @@ TEST(UpdateCtrlList, KeepsOwnOrderThenAddsWhatTheSourceHasInSourceOrder)
     EXPECT_TRUE(taken[1].GetVariableName().SharesBufferWith(shared));
     obj.UpdateCtrlList(&taken, Vars({u"Y", u"Z"}), 1);
     EXPECT_EQ(Names(taken), (std::vector<std::u16string>{u"Y", u"Z"}));
+
+    // A sheet too long for a table that fits the caches (indexed region by
+    // region): every hundredth column repeats an earlier one.
+    CGUIArray<CGUIDataVariable> sheet;
+    std::vector<std::u16string> once;
+    for (int i = 0; i < 40'000; ++i) {
+        const std::u16string name = u"V" + CString::FromNumber(i % 100 == 99 ? i - 50 : i).Str();
+        sheet.Add(CGUIDataVariable(CString(name), NmsEnum::VT_NUMERIC, i));
+        if (i % 100 != 99)
+            once.push_back(name);
+    }
+    CGUIArray<CGUIDataVariable> listed;
+    obj.UpdateCtrlList(&listed, std::move(sheet), 1);
+    EXPECT_EQ(Names(listed), once);
 }
 
 TEST(ListQueries, PresenceComparisonAndSelection)
@@ -152,4 +166,11 @@ TEST(DataVariable, NameAndLabelSurviveCopiesMovesAndRenamesInBothForms)
         EXPECT_EQ(copied[i].GetVariableName(), CString::FromNumber(i));
         EXPECT_EQ(copied[i].GetLabel().IsEmpty(), i % 3 != 0);
     }
+
+    // The name's hash, by which long lists are indexed, follows the name
+    // through copies, moves and renames.
+    for (const CGUIDataVariable* v : {&plain, &labelled, &copy, &copied[3]})
+        EXPECT_EQ(v->GetNameHash(), CTextIndex::Hash(v->GetVariableName().Str())) << v->GetVariableName().ToUtf8();
+    const CGUIDataVariable taken = std::move(copy);
+    EXPECT_EQ(copy.GetNameHash(), CTextIndex::Hash(u"")); // NOLINT(bugprone-use-after-move): moved from, nameless
 }

@@ -129,6 +129,7 @@ TEST(VariableListArchive, NamedLayoutKeepsNamesAndLabels)
     EXPECT_EQ(back[0].GetLabel(), CString(u"yield"));
     EXPECT_EQ(back[1].GetVariableName(), CString(u"B$"));
     EXPECT_EQ(back[1].IsSelected(), 1);
+    EXPECT_EQ(back[1].GetNameHash(), CTextIndex::Hash(u"B$")); // long lists are indexed by it
 }
 
 TEST(ListArchive, TextNumberAndNestedListsRoundTrip)

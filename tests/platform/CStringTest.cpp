@@ -73,6 +73,17 @@ TEST(CStringText, ControlCharactersAreDetected)
             EXPECT_TRUE(ContainsControlCharacter(CString(text))) << at;
         }
     }
+
+    // A text found (or known) free of them is not read again, until it
+    // changes: in place, or in a copy.
+    for (CString line : {CString(u"COVAR a b"), CString::KnownPrintable(u"COVAR a b")}) {
+        EXPECT_FALSE(ContainsControlCharacter(line));
+        CString copy = line;
+        copy += u"\n";
+        EXPECT_TRUE(ContainsControlCharacter(copy));
+        line.SetAt(0, u'\t');
+        EXPECT_TRUE(ContainsControlCharacter(line));
+    }
 }
 
 TEST(CStringSharing, CopiesShareTheBufferUntilOneOfThemChanges)
