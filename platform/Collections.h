@@ -173,12 +173,17 @@ private:
         return empty;
     }
     // The elements to change: this array's own, copied first when shared.
+    // Inline for the common case of elements of its own, as an array is
+    // filled an element at a time.
     Storage& Own()
     {
-        if (!m_data)
-            m_data = std::make_shared<Storage>();
-        else if (m_data.use_count() > 1)
-            m_data = std::make_shared<Storage>(*m_data);
+        if (m_data && m_data.use_count() == 1) [[likely]]
+            return *m_data;
+        return Detach();
+    }
+    [[gnu::noinline]] Storage& Detach()
+    {
+        m_data = m_data ? std::make_shared<Storage>(*m_data) : std::make_shared<Storage>();
         return *m_data;
     }
 
